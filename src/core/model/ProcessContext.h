@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace zentor {
+
+// What the process knows about where it runs. Made once at start-up and handed to
+// whatever needs it; nothing here is global.
+struct ProcessContext {
+    QString AppPath;       // the program's folder, ending in '/'
+    QString WorkFolder;    // system temp + "Zentor/", ending in '/'
+    QString TempImagePath; // WorkFolder + "tempgen.jpg"
+    qint64 PlayerStubSize = 524288;
+    QString CommandLine; // the project path given on the command line, quotes removed
+
+    // Builds the context for a program in appDir, with the work folder under tempDir
+    // (the system temp folder when empty). Creates the work folder.
+    static ProcessContext create(const QString& appDir, const QString& tempDir = QString());
+
+    // The default background picture beside the program.
+    QString defaultBackPicture() const { return AppPath + QStringLiteral("Res/bakpic.jpg"); }
+
+    // Creates the work folder again if something removed it; returns false if it cannot.
+    bool ensureWorkFolder() const;
+    // Removes the work folder and everything in it (at exit); errors are ignored.
+    void removeWorkFolder() const;
+};
+
+// Qt warns on every start when XDG_RUNTIME_DIR is unset (as under CI): gives the process a
+// private one first. Call before creating the application object.
+void PrepareRuntimeDir();
+
+// The command-line rule: the arguments after the program name joined by single spaces;
+// then a trailing double quote and after it a leading one are removed.
+QString CommandLineFromArguments(const QStringList& argsWithoutProgram);
+
+} // namespace zentor
