@@ -1,0 +1,114 @@
+#include "ScriptedPrompter.h"
+
+namespace zentor::test {
+
+ScriptedPrompter& ScriptedPrompter::expectQuestion(const QString& title, const QString& text,
+                                                   Answer answer) {
+    Step s{Step::Ask, title, text, answer};
+    s.buttons = Buttons::YesNo;
+    s.icon = Icon::Question;
+    s.defaultAnswer = Answer::No;
+    s.checkButtons = true;
+    steps_.append(s);
+    return *this;
+}
+
+ScriptedPrompter& ScriptedPrompter::expectYesNoCancel(const QString& title, const QString& text,
+                                                      Answer answer) {
+    Step s{Step::Ask, title, text, answer};
+    s.buttons = Buttons::YesNoCancel;
+    s.icon = Icon::Question;
+    s.defaultAnswer = Answer::No;
+    s.checkButtons = true;
+    steps_.append(s);
+    return *this;
+}
+
+ScriptedPrompter& ScriptedPrompter::expectWarning(const QString& title, const QString& text) {
+    Step s{Step::Ask, title, text, Answer::Ok};
+    s.buttons = Buttons::Ok;
+    s.icon = Icon::Exclamation;
+    s.defaultAnswer = Answer::Ok;
+    s.checkButtons = true;
+    steps_.append(s);
+    return *this;
+}
+
+ScriptedPrompter& ScriptedPrompter::expectAsk(const QString& title, const QString& text,
+                                              Answer answer) {
+    steps_.append(Step{Step::Ask, title, text, answer});
+    return *this;
+}
+
+ScriptedPrompter& ScriptedPrompter::expectFile(bool save, const QString& title,
+                                               const QString& filter, const QString& result) {
+    Step s{Step::File, title, filter};
+    s.path = result;
+    s.save = save;
+    steps_.append(s);
+    return *this;
+}
+
+ScriptedPrompter& ScriptedPrompter::expectColor(uint32_t result) {
+    Step s{Step::Color, QString(), QString()};
+    s.color = result;
+    steps_.append(s);
+    return *this;
+}
+
+const ScriptedPrompter::Step* ScriptedPrompter::next(Step::Kind kind, const QString& what) {
+    log_.append(what);
+    if (used_ >= steps_.size()) {
+        failures_.append(QStringLiteral("unexpected call: ") + what);
+        return nullptr;
+    }
+    const Step& s = steps_[used_++];
+    if (s.kind != kind) {
+        failures_.append(QStringLiteral("expected another kind of prompt, got: ") + what);
+        return nullptr;
+    }
+    return &s;
+}
+
+Prompter::Answer ScriptedPrompter::ask(const QString& title, const QString& text,
+                                       Buttons buttons, Icon icon, Answer defaultAnswer) {
+    const Step* s = next(Step::Ask, title + QStringLiteral(" | ") + text);
+    if (!s)
+        return Answer::Cancel;
+    if (s->title != title || s->text != text)
+        failures_.append(QStringLiteral("asked \"%1\" / \"%2\", expected \"%3\" / \"%4\"")
+                             .arg(title, text, s->title, s->text));
+    if (s->checkButtons &&
+        (s->buttons != buttons || s->icon != icon || s->defaultAnswer != defaultAnswer))
+        failures_.append(QStringLiteral("wrong buttons, icon or default button for \"%1\"")
+                             .arg(text));
+    return s->answer;
+}
+
+QString ScriptedPrompter::chooseFile(bool save, const QString& title, const QString& filter,
+                                     const QString&, const QString&, const QString&) {
+    const Step* s = next(Step::File, QStringLiteral("file: ") + title + QStringLiteral(" | ") + filter);
+    if (!s)
+        return QString();
+    if (s->title != title || s->text != filter || s->save != save)
+        failures_.append(QStringLiteral("file dialog \"%1\" (%2, %3), expected \"%4\" (%5, %6)")
+                             .arg(title, filter, save ? QStringLiteral("save") : QStringLiteral("open"),
+                                  s->title, s->text,
+                                  s->save ? QStringLiteral("save") : QStringLiteral("open")));
+    return s->path;
+}
+
+uint32_t ScriptedPrompter::chooseColor() {
+    const Step* s = next(Step::Color, QStringLiteral("colour dialog"));
+    return s ? s->color : 0;
+}
+
+QStringList ScriptedPrompter::failures() const {
+    QStringList all = failures_;
+    for (qsizetype i = used_; i < steps_.size(); ++i)
+        all.append(QStringLiteral("never asked: ") + steps_[i].title + QStringLiteral(" | ") +
+                   steps_[i].text);
+    return all;
+}
+
+} // namespace zentor::test
