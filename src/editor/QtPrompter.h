@@ -11,7 +11,9 @@ namespace zentor {
 // The prompter the window uses: Qt message boxes and file and colour dialogs.
 class QtPrompter : public Prompter {
 public:
-    explicit QtPrompter(QWidget* owner) : owner_(owner) {}
+    explicit QtPrompter(QWidget* owner = nullptr) : owner_(owner) {}
+    // The window the dialogs belong to (made after the prompter it is given).
+    void setOwner(QWidget* owner) { owner_ = owner; }
 
     Answer ask(const QString& title, const QString& text, Buttons buttons, Icon icon,
                Answer defaultAnswer) override;

@@ -1,0 +1,34 @@
+#include "editor/FrmMain.h"
+#include "editor/QtPrompter.h"
+#include "model/DefaultDocument.h"
+#include "model/ProcessContext.h"
+
+#include <QApplication>
+
+#include <memory>
+
+using namespace zentor;
+
+int main(int argc, char** argv) {
+    PrepareRuntimeDir();
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Vitara Zentor"));
+
+    ProcessContext ctx = ProcessContext::create(QApplication::applicationDirPath());
+    ctx.CommandLine = CommandLineFromArguments(QApplication::arguments().mid(1));
+    auto doc = std::make_unique<Document>();
+    NewDocument(*doc, ctx);
+
+    QtPrompter prompter;
+    int status = 0;
+    {
+        FrmMain window(*doc, ctx, prompter);
+        prompter.setOwner(&window);
+        window.formLoad();
+        window.show();
+        status = app.exec();
+    }
+    // Whatever ended the run, nothing is left in the work folder.
+    ctx.removeWorkFolder();
+    return status;
+}

@@ -1,0 +1,15 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "model/ProcessContext.h"
+
+int main(int argc, char** argv) {
+    // The real widgets, without a display.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    zentor::PrepareRuntimeDir();
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Vitara Zentor"));
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
