@@ -14,6 +14,8 @@ void PaintWorkspacePlaceholder(QImage& target, const Document& doc, const Proces
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     const QRect all = target.rect();
     auto picture = [&](const QString& raw, const QRect& r) {
+        if (raw.isEmpty())
+            return;
         const QImage img(ResolvePath(doc.ScriptPath, raw));
         if (!img.isNull())
             p.drawImage(r, img);

@@ -1,0 +1,362 @@
+#include "editor/FrmMain.h"
+
+#include "ScriptedPrompter.h"
+#include "TestSupport.h"
+#include "io/ScriptFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTest>
+
+namespace zentor::test {
+namespace {
+
+const QString ScriptFilter = QStringLiteral("*.qds|*.qds|*.*|*.*");
+
+class WindowTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        doc = sandbox.newDocument();
+        window = std::make_unique<FrmMain>(*doc, sandbox.ctx, prompter);
+        window->formLoad();
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        ws = find<QWidget>("PicWorkSpace");
+        frame = find<QWidget>("LabAdd");
+        strip = find<QTabBar>("TabTitle");
+        list = find<QComboBox>("CmbPropertity");
+    }
+    void TearDown() override {
+        EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+    }
+
+    template <class T> T* find(const char* name) {
+        T* w = window->findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(w, nullptr) << name;
+        return w;
+    }
+    QWidget* handle(int k) { return find<QWidget>(QStringLiteral("LabSize%1").arg(k).toLatin1()); }
+    const EditorState& state() { return window->editor().state(); }
+    void run(int command) { window->toolbarAction(command)->trigger(); }
+    void clickStrip(int position) {
+        QTest::mouseClick(strip, Qt::LeftButton, {}, strip->tabRect(position - 1).center());
+    }
+    // A text on the Personal page (strip 2, tab 7) at the given place, selected.
+    int insertText(const QRect& at) {
+        clickStrip(2);
+        run(CmdInsertText);
+        const int slot = state().SelectedIndex;
+        TextElement& t = doc->Texts[slot];
+        t.Left = at.x(), t.Top = at.y(), t.Width = at.width(), t.Height = at.height();
+        window->editor().RefreshTab(state().CurrentTab);
+        return slot;
+    }
+    QRect record(int slot) {
+        const TextElement& t = doc->Texts[slot];
+        return QRect(t.Left, t.Top, t.Width, t.Height);
+    }
+    // A drag on `pressed`, with every point in workspace pixels.
+    void drag(QWidget* pressed, QPoint from, QPoint to, Qt::MouseButton b = Qt::LeftButton) {
+        QTest::mousePress(pressed, b, {}, pressed->mapFrom(ws, from));
+        QTest::mouseMove(ws, to);
+        QTest::mouseRelease(ws, b, {}, to);
+    }
+
+    Sandbox sandbox;
+    std::unique_ptr<Document> doc;
+    ScriptedPrompter prompter;
+    std::unique_ptr<FrmMain> window;
+    QWidget* ws = nullptr;
+    QWidget* frame = nullptr;
+    QTabBar* strip = nullptr;
+    QComboBox* list = nullptr;
+};
+
+TEST_F(WindowTest, StartsOnTheProfilePageWithTheDocumentsTabNames) {
+    const QStringList expected = {"Get Started", "Personal",  "Objective", "Skills && Interests",
+                                  "Experience",  "Education", "Awards",    "Overview",
+                                  "Slide Show"};
+    ASSERT_EQ(strip->count(), 9);
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(strip->tabText(i), expected[i]) << i;
+    EXPECT_EQ(strip->currentIndex(), 0);
+    EXPECT_EQ(list->count(), 1);
+    EXPECT_EQ(list->currentText(), "Profile ");
+    EXPECT_EQ(find<QLabel>("LabPropertity")->text(), "Propertity - Profile ");
+    EXPECT_EQ(find<QLabel>("StatusPanel1")->text(), "Ready");
+    EXPECT_FALSE(frame->isVisible());
+    EXPECT_FALSE(doc->Dirty);
+
+    // An 800 x 600 page in a larger viewport sits in the middle with idle scroll bars.
+    const QWidget* show = find<QWidget>("PicShow");
+    ASSERT_GT(show->width(), 800);
+    ASSERT_GT(show->height(), 600);
+    EXPECT_EQ(ws->geometry(),
+              QRect((show->width() - 800) / 2, (show->height() - 600) / 2, 800, 600));
+    for (const char* name : {"HSShow", "VSShow"}) {
+        auto* bar = find<QScrollBar>(name);
+        EXPECT_EQ(bar->minimum(), 0) << name;
+        EXPECT_EQ(bar->maximum(), 0) << name;
+    }
+    // The menus carry their items at the indices the commands are known by.
+    EXPECT_EQ(find<QAction>("SubFile5")->text(), "Generate &Selfrun Resume File");
+    EXPECT_TRUE(find<QAction>("SubFile9")->isSeparator());
+    EXPECT_EQ(find<QAction>("SubEdit10")->text(), "Setting");
+    EXPECT_EQ(find<QAction>("SubAbout6")->text(), "&About");
+    EXPECT_EQ(window->toolbarAction(16)->toolTip(), "Generate Selfrun Resume");
+}
+
+TEST_F(WindowTest, InsertingATextSelectsItUnderTheFrame) {
+    clickStrip(2);
+    run(CmdInsertText);
+    EXPECT_TRUE(doc->Dirty);
+    const int slot = state().SelectedIndex;
+    EXPECT_EQ(slot, 1);
+    EXPECT_EQ(doc->Texts[slot].TabNo, 7);
+    EXPECT_EQ(list->currentIndex(), 1);
+    EXPECT_TRUE(list->currentText().startsWith("Text - text 1"));
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_EQ(frame->geometry(), QRect(0, 0, 150, 150));
+    // Handles: corners and edge middles, inside the frame.
+    EXPECT_EQ(handle(0)->geometry(), QRect(0, 0, 7, 7));
+    EXPECT_EQ(handle(4)->pos(), QPoint(71, 143));
+    EXPECT_EQ(handle(7)->pos(), QPoint(143, 143));
+
+    // Not on the profile page.
+    clickStrip(1);
+    doc->Dirty = false;
+    run(CmdInsertText);
+    EXPECT_FALSE(doc->Dirty);
+    EXPECT_EQ(doc->Texts[2].TabNo, 0);
+}
+
+TEST_F(WindowTest, DraggingTheFrameMovesTheRecordLiveAndMarksTheDocument) {
+    const int slot = insertText(QRect(100, 100, 150, 80));
+    doc->Dirty = false;
+    QTest::mousePress(frame, Qt::LeftButton, {}, QPoint(10, 10));
+    EXPECT_EQ(frame->cursor().shape(), Qt::SizeAllCursor);
+    QTest::mouseMove(ws, QPoint(150, 140));
+    // The record follows the mouse before the button is released.
+    EXPECT_EQ(record(slot), QRect(140, 130, 150, 80));
+    EXPECT_EQ(frame->geometry(), QRect(140, 130, 150, 80));
+    QTest::mouseRelease(ws, Qt::LeftButton, {}, QPoint(150, 140));
+    EXPECT_EQ(record(slot), QRect(140, 130, 150, 80));
+    EXPECT_TRUE(doc->Dirty);
+    EXPECT_NE(frame->cursor().shape(), Qt::SizeAllCursor);
+
+    // Past the right border the object stops with its right edge on it.
+    drag(frame, QPoint(150, 140), QPoint(700, 140));
+    EXPECT_EQ(record(slot), QRect(650, 130, 150, 80));
+}
+
+TEST_F(WindowTest, DraggingOnTheWorkspaceSelectsAndMovesWithoutMarking) {
+    const int slot = insertText(QRect(100, 100, 150, 80));
+    // A press beside every object selects the page itself.
+    QTest::mouseClick(ws, Qt::LeftButton, {}, QPoint(600, 500));
+    EXPECT_EQ(state().SelectedKind, KindTab);
+    EXPECT_FALSE(frame->isVisible());
+    doc->Dirty = false;
+
+    QTest::mousePress(ws, Qt::LeftButton, {}, QPoint(110, 110));
+    EXPECT_EQ(list->currentIndex(), 1);
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_EQ(ws->cursor().shape(), Qt::SizeAllCursor);
+    QTest::mouseMove(ws, QPoint(90, 160));
+    EXPECT_EQ(record(slot), QRect(80, 150, 150, 80));
+    QTest::mouseRelease(ws, Qt::LeftButton, {}, QPoint(90, 160));
+    EXPECT_EQ(record(slot), QRect(80, 150, 150, 80));
+    EXPECT_NE(ws->cursor().shape(), Qt::SizeAllCursor);
+    EXPECT_FALSE(doc->Dirty); // only the frame's own move marks the document
+
+    // A right press selects but does not drag, and its release opens the Edit menu.
+    QTest::mouseClick(ws, Qt::LeftButton, {}, QPoint(600, 500));
+    QTest::mousePress(ws, Qt::RightButton, {}, QPoint(100, 200));
+    QTest::mouseMove(ws, QPoint(300, 300));
+    QTest::mouseRelease(ws, Qt::RightButton, {}, QPoint(300, 300));
+    EXPECT_EQ(record(slot), QRect(80, 150, 150, 80));
+    EXPECT_EQ(list->currentIndex(), 1);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->objectName(), "MainEdit");
+    menu->close();
+}
+
+TEST_F(WindowTest, HandlesResizeKeepingTheOppositeEdge) {
+    struct Case {
+        int handle;
+        QPoint by;
+        QRect expected;
+    };
+    const Case cases[] = {
+        {7, {30, 20}, {100, 100, 180, 100}}, // bottom-right grows
+        {0, {-30, -40}, {70, 60, 180, 120}}, // top-left grows up and left
+        {1, {300, 0}, {243, 100, 7, 80}},    // left edge past the right one: 7 wide
+        {3, {0, -150}, {100, 0, 150, 180}},  // past the page's top: Top 0, taller by old Top
+        {6, {-400, 0}, {100, 100, 7, 80}},   // right edge past the left: raised to 7
+    };
+    for (const Case& c : cases) {
+        const int slot = insertText(QRect(100, 100, 150, 80));
+        QWidget* h = handle(c.handle);
+        const QPoint start = h->geometry().center();
+        drag(h, start, start + c.by);
+        EXPECT_EQ(record(slot), c.expected) << "handle " << c.handle;
+        EXPECT_EQ(frame->geometry(), c.expected) << "handle " << c.handle;
+    }
+}
+
+TEST_F(WindowTest, TheStripAndPreviousNextChangePagesAndWrap) {
+    clickStrip(2);
+    EXPECT_EQ(state().CurrentTab, 7);
+    EXPECT_TRUE(find<QLabel>("LabPropertity")->text().startsWith("Propertity - Tab - Personal"));
+    clickStrip(8);
+    EXPECT_EQ(state().CurrentTab, 1);
+    run(CmdNextTab);
+    EXPECT_EQ(strip->currentIndex(), 8);
+    EXPECT_EQ(state().CurrentTab, 8);
+    EXPECT_EQ(list->currentText(), "Slide Show");
+    run(CmdNextTab);
+    EXPECT_EQ(state().CurrentTab, 0);
+    run(CmdPreviousTab);
+    EXPECT_EQ(state().CurrentTab, 8);
+
+    // The same commands on the keys.
+    QTest::keyClick(window.get(), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(state().CurrentTab, 0);
+    QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(state().CurrentTab, 8);
+}
+
+TEST_F(WindowTest, TheInPlaceEditorStoresItsTextWhenLeft) {
+    const int slot = insertText(QRect(100, 100, 200, 90));
+    doc->Texts[slot].Text = QStringLiteral("Hello");
+    doc->Dirty = false;
+    QTest::mouseDClick(frame, Qt::LeftButton, {}, QPoint(20, 20));
+    auto* box = find<QPlainTextEdit>("TxtAdd");
+    ASSERT_TRUE(box->isVisible());
+    EXPECT_EQ(box->geometry(), QRect(100, 100, 200, 90));
+    EXPECT_EQ(box->toPlainText(), "Hello");
+    EXPECT_TRUE(doc->Dirty); // opening the editor already counts as a change
+    EXPECT_EQ(record(slot), QRect(100, 100, 200, 90)); // a double-click moves nothing
+
+    QTest::keyClicks(box, " world");
+    QTest::mouseClick(ws, Qt::LeftButton, {}, QPoint(700, 550));
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_EQ(doc->Texts[slot].Text.text(), "Hello world");
+
+    // Changing the page stores an open edit into the page it was started on.
+    QTest::mouseClick(ws, Qt::LeftButton, {}, QPoint(150, 150));
+    QTest::mouseDClick(frame, Qt::LeftButton, {}, QPoint(20, 20));
+    ASSERT_TRUE(box->isVisible());
+    box->selectAll();
+    QTest::keyClicks(box, "Bye");
+    clickStrip(3);
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_EQ(state().CurrentTab, 6);
+    EXPECT_EQ(doc->Texts[slot].Text.text(), "Bye");
+    EXPECT_EQ(doc->Texts[slot].TabNo, 7);
+}
+
+TEST_F(WindowTest, TheProfileRingShowsAHandAndLeadsToItsPage) {
+    const EdgeRect icon = state().IconRects[3];
+    const QPoint over((icon.left + icon.right) / 2, (icon.top + icon.bottom) / 2);
+    QTest::mouseMove(ws, over);
+    EXPECT_EQ(state().HoverIcon, 3);
+    EXPECT_EQ(ws->cursor().shape(), Qt::PointingHandCursor);
+    // On the icon's very edge the pointer is not over it.
+    QTest::mouseMove(ws, QPoint(icon.left, over.y()));
+    EXPECT_EQ(state().HoverIcon, 0);
+    EXPECT_NE(ws->cursor().shape(), Qt::PointingHandCursor);
+
+    QTest::mouseMove(ws, over);
+    QTest::mouseClick(ws, Qt::LeftButton, {}, over);
+    EXPECT_EQ(state().CurrentTab, 3);
+    EXPECT_EQ(strip->currentIndex(), 5);
+}
+
+TEST_F(WindowTest, DeleteKeyAsksBeforeDeletingTheSelectedText) {
+    const int slot = insertText(QRect(10, 10, 100, 50));
+    prompter.expectQuestion("Delete Text", "Are you sure to delete text 1?", Prompter::Answer::Yes);
+    QTest::keyClick(window.get(), Qt::Key_Delete);
+    EXPECT_EQ(doc->Texts[slot].TabNo, 0);
+    EXPECT_EQ(list->count(), 1);
+}
+
+TEST_F(WindowTest, ALargeFrameScrollsByMovingTheWorkspace) {
+    auto big = sandbox.newDocument();
+    big->Header.FrameWidth = 2000;
+    big->Header.FrameHeight = 1500;
+    const QString path = sandbox.path("big.qds");
+    ASSERT_TRUE(SaveScript(*big, path));
+    prompter.expectFile(false, "Open QDV Script File", ScriptFilter, path);
+    run(CmdOpen);
+
+    const QWidget* show = find<QWidget>("PicShow");
+    auto* hs = find<QScrollBar>("HSShow");
+    auto* vs = find<QScrollBar>("VSShow");
+    EXPECT_EQ(ws->size(), QSize(2000, 1500));
+    EXPECT_EQ(hs->minimum(), show->width());
+    EXPECT_EQ(hs->maximum(), 2000);
+    EXPECT_EQ(vs->minimum(), show->height());
+    EXPECT_EQ(vs->maximum(), 1500);
+    // The page shows its middle; position = Min - Value on both axes.
+    EXPECT_EQ(ws->x(), hs->minimum() - hs->value());
+    EXPECT_EQ(ws->y(), vs->minimum() - vs->value());
+    EXPECT_LT(ws->x(), 0);
+
+    hs->setValue(hs->maximum());
+    vs->setValue(vs->maximum());
+    EXPECT_EQ(ws->x(), show->width() - 2000); // the right edge in view
+    EXPECT_EQ(ws->y(), show->height() - 1500);
+    hs->setValue(hs->minimum());
+    EXPECT_EQ(ws->x(), 0);
+
+    // A larger window: the viewport grows and the page is centred again.
+    window->resize(window->width() + 60, window->height() + 40);
+    QApplication::processEvents();
+    EXPECT_EQ(ws->x(), hs->minimum() - hs->value());
+    EXPECT_EQ(ws->y(), vs->minimum() - vs->value());
+}
+
+TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
+    struct Case {
+        Prompter::Answer answer;
+        bool closes;
+    };
+    const QString title = QStringLiteral("Exit Vitara Zentor");
+    const QString text = QStringLiteral("Please save the work before exit. Exit with save?");
+    for (const Case c : {Case{Prompter::Answer::Cancel, false}, Case{Prompter::Answer::No, true}}) {
+        ASSERT_TRUE(QDir(sandbox.ctx.WorkFolder).exists() || sandbox.ctx.ensureWorkFolder());
+        prompter.expectYesNoCancel(title, text, c.answer);
+        EXPECT_EQ(window->close(), c.closes);
+        EXPECT_EQ(window->isVisible(), !c.closes);
+        // The work folder goes with the window.
+        EXPECT_EQ(QDir(sandbox.ctx.WorkFolder).exists(), !c.closes);
+        window->show();
+    }
+
+    // Yes on a never-saved document: the save dialog is cancelled and the window still closes.
+    prompter.expectYesNoCancel(title, text, Prompter::Answer::Yes);
+    prompter.expectFile(true, "Save QDV Script File", ScriptFilter, QString());
+    EXPECT_TRUE(window->close());
+
+    // Yes with a path saves first.
+    window->show();
+    const QString path = sandbox.path("cv.qds");
+    prompter.expectYesNoCancel(title, text, Prompter::Answer::Yes);
+    prompter.expectFile(true, "Save QDV Script File", ScriptFilter, path);
+    EXPECT_TRUE(window->close());
+    EXPECT_TRUE(QFileInfo::exists(path));
+}
+
+} // namespace
+} // namespace zentor::test
