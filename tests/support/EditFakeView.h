@@ -84,7 +84,10 @@ struct EditorFixture {
     ScriptedPrompter prompter;
     Editor editor{*doc, box.ctx, view, prompter};
 
-    EditorFixture() { editor.formLoad(); }
+    explicit EditorFixture(bool start = true) {
+        if (start)
+            editor.formLoad();
+    }
     // Shows content page `tab` through the strip, as a user's click does.
     void showTab(int tab) {
         view.selectStrip(GetTabIndex(tab));
