@@ -10,6 +10,14 @@
 
 #include <memory>
 #include <optional>
+#include <ostream>
+
+namespace zentor {
+// Readable failures.
+inline void PrintTo(const IntRect& r, std::ostream* os) {
+    *os << "(" << r.Left << ", " << r.Top << ", " << r.Width << ", " << r.Height << ")";
+}
+} // namespace zentor
 
 namespace zentor::test {
 
