@@ -30,7 +30,7 @@ TEST(EditCommands, StartUpShowsTheProfilePageWithTheStripCaptions) {
     EXPECT_EQ(f.view.caption, "Propertity - Profile ");
     EXPECT_FALSE(f.view.frameVisible);
     EXPECT_EQ(f.view.frame, (IntRect{100, 100, 100, 100}));
-    EXPECT_EQ(f.view.workspace, (IntRect{0, 0, 800, 600}));
+    EXPECT_EQ(f.view.workspace, (IntRect{100, 50, 800, 600})); // centred in 1000 x 700
     EXPECT_FALSE(f.doc->Dirty);
     EXPECT_PROMPTS_DONE(f.prompter);
 }

@@ -96,6 +96,20 @@ TEST(EditMouse, PressOnEmptyPlaceSelectsThePageAndStartsNoDrag) {
     EXPECT_FALSE(f.editor.state().WorkspaceMoving);
 }
 
+TEST(EditMouse, RedrawKeepsTheSelectedObjectButNotThePageRow) {
+    PageFixture f;
+    f.editor.workspaceMouseDown(MouseButton::Left, {110, 110});
+    f.editor.RefreshTab(1);
+    EXPECT_EQ(f.view.currentRow, 1);
+    EXPECT_EQ(f.editor.state().SelectedKind, KindImage);
+    // The page row matches the map's unused (0, 0) rows first, past the list's end: the
+    // list is left without a selection, as the program always did.
+    f.editor.workspaceMouseDown(MouseButton::Left, {500, 500});
+    f.editor.RefreshTab(1);
+    EXPECT_EQ(f.view.currentRow, -1);
+    EXPECT_EQ(f.editor.state().SelectedKind, KindTab);
+}
+
 TEST(EditMouse, HandlesResizeTheSelectedObject) {
     PageFixture f;
     f.editor.workspaceMouseDown(MouseButton::Left, {110, 110});
