@@ -143,15 +143,9 @@ TEST(EditGeometry, HoverOverRingIconsExcludesEdges) {
         EXPECT_EQ(HoverIconAt(r, c.x, c.y), c.icon) << c.x << "," << c.y;
 }
 
-TEST(EditGeometry, StripStepsWrapAround) {
-    EXPECT_EQ(NextStrip(9), 1);
-    EXPECT_EQ(PrevStrip(1), 9);
-    EXPECT_EQ(NextStrip(4), 5);
-    EXPECT_EQ(PrevStrip(4), 3);
-    // With no strip selected the old page number is read as a strip position.
+TEST(EditGeometry, NoSelectedStripMapsTheOldPageAsAPosition) {
     EXPECT_EQ(GetSelectedIndex(0, 3), 6);
     EXPECT_EQ(GetSelectedIndex(2, 3), 7);
-    EXPECT_EQ(GetSelectedIndex(9, 0), 8);
 }
 
 TEST(EditGeometry, ScrollBarsFollowTheWorkspace) {
@@ -170,19 +164,6 @@ TEST(EditGeometry, ScrollBarsFollowTheWorkspace) {
     EXPECT_EQ(OffsetFromScroll(-30000, 10000), std::nullopt);
     EXPECT_EQ(CentreOffset(801, 800), 0); // half rounds to even
     EXPECT_EQ(CentreOffset(803, 800), 2);
-}
-
-TEST(EditGeometry, PaneLayout) {
-    const FramePaneLayout l = LayoutFramePane(900, 650);
-    EXPECT_EQ(l.tabStripWidth, 901);
-    EXPECT_EQ(l.viewportWidth, 882);
-    EXPECT_EQ(l.viewportHeight, 602);
-    EXPECT_EQ(l.hScrollTop, 632);
-    EXPECT_EQ(l.vScrollLeft, 882);
-    EXPECT_EQ(PropertyPaneHeight(500), 370);
-    EXPECT_EQ(PropertyPaneHeight(100), std::nullopt);
-    EXPECT_EQ(WordBoxHeight(380, 380, 100), std::nullopt);
-    EXPECT_EQ(WordBoxHeight(381, 381, 100), 276);
 }
 
 } // namespace

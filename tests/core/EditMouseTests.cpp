@@ -171,23 +171,4 @@ TEST(EditMouse, ProfileRingHoverAndClickLeadToTheTab) {
     EXPECT_EQ(g.editor.state().CurrentTab, 0);
 }
 
-TEST(EditMouse, DoubleClicksOpenTheMatchingChooser) {
-    const struct {
-        int tab;
-        const char* expected;
-    } cases[] = {{0, "file command 0"}, {4, "file command 1"}, {8, "file command 3"}};
-    for (const auto& c : cases) {
-        EditorFixture f;
-        f.showTab(c.tab);
-        f.view.log.clear();
-        f.editor.workspaceDoubleClick();
-        EXPECT_EQ(f.view.log, QStringList{c.expected});
-    }
-    PageFixture f;
-    f.editor.workspaceMouseDown(MouseButton::Left, {110, 110});
-    f.view.log.clear();
-    f.editor.frameDoubleClick();
-    EXPECT_EQ(f.view.log, QStringList{"file command 2"});
-}
-
 } // namespace
