@@ -3,7 +3,6 @@
 #include "edit/WorkspaceLayout.h"
 #include "editor/PropertyPanes.h"
 #include "editor/ToolbarIcons.h"
-#include "editor/WorkspacePlaceholder.h"
 #include "editor/WorkspaceWidgets.h"
 #include "model/DefaultDocument.h"
 #include "model/ProcessContext.h"
@@ -36,14 +35,12 @@ const char* const StripCaptions[9] = {
 
 } // namespace
 
-FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, QWidget* parent)
+FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, const ResImages& res,
+                 QWidget* parent)
     : QMainWindow(parent), doc_(doc), ctx_(ctx), prompter_(prompter),
-      editor_(doc, ctx, *this, prompter) {
+      editor_(doc, ctx, *this, prompter), res_(res) {
     setObjectName(QStringLiteral("FrmMain"));
     setWindowIcon(QIcon(QStringLiteral(":/pictures/LOGO.png")));
-    painter_ = [this](QImage& target, const Document& d, int tab, int hover) {
-        PaintWorkspacePlaceholder(target, d, ctx_, tab, hover);
-    };
 
     buildMenus();
     buildToolbar();

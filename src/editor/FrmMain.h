@@ -3,6 +3,8 @@
 #include "edit/Editor.h"
 #include "edit/EditorView.h"
 
+#include "render/PictureCache.h"
+
 #include <QMainWindow>
 
 #include <array>
@@ -21,6 +23,7 @@ namespace zentor {
 
 class InPlaceEdit;
 class PropertyPanes;
+class ResImages;
 class SelectionFrame;
 class SizeHandle;
 class WorkspaceCanvas;
@@ -31,16 +34,12 @@ struct ProcessContext;
 class FrmMain : public QMainWindow, public EditorView {
     Q_OBJECT
 public:
-    // Paints page `tab` of the document into `target` (already frame-sized).
-    using Painter = std::function<void(QImage& target, const Document& doc, int tab, int hover)>;
-
-    FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter,
+    FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, const ResImages& res,
             QWidget* parent = nullptr);
     ~FrmMain() override;
 
     Editor& editor() { return editor_; }
     PropertyPanes& panes() { return *panes_; }
-    void setPainter(Painter painter) { painter_ = std::move(painter); }
 
     // Start-up once the window exists: workspace, strip captions, the command-line project,
     // the profile page.
@@ -97,7 +96,8 @@ private:
     Prompter& prompter_;
     Editor editor_;
     PropertyPanes* panes_ = nullptr;
-    Painter painter_;
+    const ResImages& res_;
+    PictureCache pictures_; // decoded once, so repainting after a drag stays quick
 
     QMenu* mainFile_ = nullptr;
     QMenu* mainEdit_ = nullptr;

@@ -5,6 +5,7 @@
 #include "editor/PropertyPanes.h"
 #include "editor/WorkspaceWidgets.h"
 #include "model/ProcessContext.h"
+#include "render/WorkspacePainter.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -19,10 +20,11 @@ namespace zentor {
 
 void FrmMain::paintWorkspace(int tab, int hoverIcon) {
     picWorkSpace_->matchBufferToSize();
-    QImage& buffer = picWorkSpace_->buffer();
-    buffer.fill(Qt::white);
-    if (painter_)
-        painter_(buffer, doc_, tab, hoverIcon);
+    QImage page = PaintWorkspace(doc_, tab, hoverIcon, res_, ctx_, &pictures_);
+    if (page.size() == picWorkSpace_->size())
+        picWorkSpace_->buffer() = std::move(page);
+    else
+        picWorkSpace_->buffer().fill(Qt::white); // a frame the painter refuses shows blank
     picWorkSpace_->update();
 }
 

@@ -2,6 +2,7 @@
 #include "editor/QtPrompter.h"
 #include "model/DefaultDocument.h"
 #include "model/ProcessContext.h"
+#include "render/ResImages.h"
 
 #include <QApplication>
 
@@ -19,10 +20,11 @@ int main(int argc, char** argv) {
     auto doc = std::make_unique<Document>();
     NewDocument(*doc, ctx);
 
+    const ResImages res = ResImages::load();
     QtPrompter prompter;
     int status = 0;
     {
-        FrmMain window(*doc, ctx, prompter);
+        FrmMain window(*doc, ctx, prompter, res);
         prompter.setOwner(&window);
         window.formLoad();
         window.show();

@@ -3,6 +3,7 @@
 #include "ScriptedPrompter.h"
 #include "TestSupport.h"
 #include "io/ScriptFile.h"
+#include "render/ResImages.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +27,7 @@ class WindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
         doc = sandbox.newDocument();
-        window = std::make_unique<FrmMain>(*doc, sandbox.ctx, prompter);
+        window = std::make_unique<FrmMain>(*doc, sandbox.ctx, prompter, res);
         window->formLoad();
         window->show();
         QApplication::setActiveWindow(window.get());
@@ -73,6 +74,7 @@ protected:
     }
 
     Sandbox sandbox;
+    ResImages res = ResImages::load();
     std::unique_ptr<Document> doc;
     ScriptedPrompter prompter;
     std::unique_ptr<FrmMain> window;
