@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTabBar>
@@ -62,7 +63,11 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
 
     panes_ = new PropertyPanes(picElementLoc_, editor_, prompter_, ctx_, this);
     wireWorkspace();
-    resize(1180, 800);
+    // Room for an 800 x 600 page beside the tool pane, within the screen.
+    QSize size(1280, 860);
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        size = size.boundedTo(screen->availableSize());
+    resize(size);
     updateTitle();
 }
 
@@ -226,7 +231,11 @@ void FrmMain::buildFrame() {
     tabTitle_->setExpanding(false);
     tabTitle_->setDrawBase(true);
     tabTitle_->setUsesScrollButtons(true);
-    tabTitle_->setIconSize(QSize(16, 16));
+    tabTitle_->setIconSize(QSize(14, 14));
+    // Nine pages share the strip: a slightly smaller type keeps them all in view.
+    QFont stripFont = tabTitle_->font();
+    stripFont.setPointSizeF(stripFont.pointSizeF() * 0.9);
+    tabTitle_->setFont(stripFont);
     for (int i = 0; i < 9; ++i) {
         // Strip position 1 is the profile page, 2..8 tabs 7..1, 9 the slide show.
         const int tab = i == 0 ? 0 : i == 8 ? 8 : 8 - i;
