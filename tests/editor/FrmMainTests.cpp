@@ -29,6 +29,8 @@ protected:
         doc = sandbox.newDocument();
         window = std::make_unique<FrmMain>(*doc, sandbox.ctx, prompter, res);
         window->formLoad();
+        // The offscreen screen is small; the window keeps a desktop size regardless.
+        window->resize(1280, 860);
         window->show();
         QApplication::setActiveWindow(window.get());
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
