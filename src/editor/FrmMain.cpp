@@ -6,6 +6,7 @@
 #include "editor/WorkspaceWidgets.h"
 #include "model/DefaultDocument.h"
 #include "model/ProcessContext.h"
+#include "render/ResImages.h"
 
 #include <QAction>
 #include <QApplication>
@@ -41,7 +42,8 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     : QMainWindow(parent), doc_(doc), ctx_(ctx), prompter_(prompter),
       editor_(doc, ctx, *this, prompter), res_(res) {
     setObjectName(QStringLiteral("FrmMain"));
-    setWindowIcon(QIcon(QStringLiteral(":/pictures/LOGO.png")));
+    if (!res.image(ResLogo).isNull())
+        setWindowIcon(QIcon(QPixmap::fromImage(res.image(ResLogo))));
 
     buildMenus();
     buildToolbar();
@@ -240,7 +242,11 @@ void FrmMain::buildFrame() {
         // Strip position 1 is the profile page, 2..8 tabs 7..1, 9 the slide show.
         const int tab = i == 0 ? 0 : i == 8 ? 8 : 8 - i;
         const int picture = tab == 0 ? ResLogo : tab;
-        tabTitle_->addTab(QIcon(QStringLiteral(":/pictures/%1.png").arg(ResImageName(picture))),
+        const QImage icon = res_.image(picture);
+        tabTitle_->addTab(icon.isNull()
+                              ? QIcon()
+                              : QIcon(QPixmap::fromImage(icon.scaled(28, 28, Qt::KeepAspectRatio,
+                                                                     Qt::SmoothTransformation))),
                           QString::fromLatin1(StripCaptions[i]));
     }
     connect(tabTitle_, &QTabBar::currentChanged, this, [this] {

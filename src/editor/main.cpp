@@ -26,8 +26,9 @@ int main(int argc, char** argv) {
     {
         FrmMain window(*doc, ctx, prompter, res);
         prompter.setOwner(&window);
-        window.formLoad();
+        // Shown first so the window is up at once; the page is painted before the first expose.
         window.show();
+        window.formLoad();
         status = app.exec();
     }
     // Whatever ended the run, nothing is left in the work folder.
