@@ -30,11 +30,6 @@ int FirstHitRow(const Table& table, int kind, const std::array<ObjectRef, Object
     return -1;
 }
 
-// Whole numbers from floating point the way the original runtime converts: halves to even.
-int RoundEven(double v) {
-    return int(std::nearbyint(v));
-}
-
 } // namespace
 
 int SelectByMouse(const Document& doc, const std::array<ObjectRef, ObjectMapRows>& map,
