@@ -76,6 +76,12 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
 FrmMain::~FrmMain() {
     if (hourglass_)
         QApplication::restoreOverrideCursor();
+    // The controls outlive the editor (they go with the QObject base): nothing they report
+    // while being torn down may reach it.
+    for (QObject* child : findChildren<QObject*>())
+        child->disconnect(this);
+    delete panes_;
+    panes_ = nullptr;
 }
 
 void FrmMain::buildMenus() {

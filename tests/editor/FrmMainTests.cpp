@@ -252,6 +252,13 @@ TEST_F(WindowTest, TheInPlaceEditorStoresItsTextWhenLeft) {
     EXPECT_TRUE(doc->Dirty); // opening the editor already counts as a change
     EXPECT_EQ(record(slot), QRect(100, 100, 200, 90)); // a double-click moves nothing
 
+    // Delete edits the text in the box; it does not delete the object.
+    QTest::keyClick(box, Qt::Key_Home);
+    QTest::keyClick(box, Qt::Key_Delete);
+    EXPECT_EQ(box->toPlainText(), "ello");
+    EXPECT_EQ(doc->Texts[slot].TabNo, 7);
+    QTest::keyClicks(box, "H");
+    QTest::keyClick(box, Qt::Key_End);
     QTest::keyClicks(box, " world");
     QTest::mouseClick(ws, Qt::LeftButton, {}, QPoint(700, 550));
     EXPECT_FALSE(box->isVisible());
@@ -353,12 +360,13 @@ TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
     prompter.expectFile(true, "Save QDV Script File", ScriptFilter, QString());
     EXPECT_TRUE(window->close());
 
-    // Yes with a path saves first.
+    // Yes with a path saves first; the File menu's Exit asks the same.
     window->show();
     const QString path = sandbox.path("cv.qds");
     prompter.expectYesNoCancel(title, text, Prompter::Answer::Yes);
     prompter.expectFile(true, "Save QDV Script File", ScriptFilter, path);
-    EXPECT_TRUE(window->close());
+    find<QAction>("SubFile10")->trigger();
+    EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(QFileInfo::exists(path));
 }
 
