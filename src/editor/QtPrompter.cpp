@@ -24,6 +24,25 @@ QMessageBox::StandardButton toQt(Prompter::Answer a) {
     }
     return QMessageBox::Ok;
 }
+// The window may show the hourglass while a command runs; the dialog it asks in is a window
+// of its own and keeps the normal pointer.
+class NormalPointer {
+public:
+    NormalPointer() : active_(QApplication::overrideCursor() != nullptr) {
+        if (active_)
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~NormalPointer() {
+        if (active_)
+            QApplication::restoreOverrideCursor();
+    }
+    NormalPointer(const NormalPointer&) = delete;
+    NormalPointer& operator=(const NormalPointer&) = delete;
+
+private:
+    bool active_;
+};
+
 } // namespace
 
 Prompter::Answer QtPrompter::ask(const QString& title, const QString& text, Buttons buttons,
@@ -61,6 +80,7 @@ Prompter::Answer QtPrompter::ask(const QString& title, const QString& text, Butt
     }
     box.setDefaultButton(toQt(defaultAnswer));
     box.setObjectName(QStringLiteral("MessageBox"));
+    NormalPointer pointer;
     switch (box.exec()) {
     case QMessageBox::Yes:
         return Answer::Yes;
@@ -111,6 +131,7 @@ QString QtPrompter::chooseFile(bool save, const QString& title, const QString& f
         dialog.setDefaultSuffix(defExt.startsWith(QLatin1Char('.')) ? defExt.mid(1) : defExt);
     if (!initFile.isEmpty())
         dialog.selectFile(initFile);
+    NormalPointer pointer;
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return QString();
     return dialog.selectedFiles().constFirst();
@@ -118,6 +139,7 @@ QString QtPrompter::chooseFile(bool save, const QString& title, const QString& f
 
 uint32_t QtPrompter::chooseColor() {
     // Starts from black like the system colour chooser, and a cancel gives 0 as black does.
+    NormalPointer pointer;
     const QColor c = QColorDialog::getColor(Qt::black, owner_);
     if (!c.isValid())
         return 0;
