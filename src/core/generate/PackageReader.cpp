@@ -15,7 +15,7 @@ bool PackageContents::usable(int entry) const {
     if (entry < 0 || entry >= Package::EntryCount)
         return false;
     const PackEntry& e = Entries[size_t(entry)];
-    if (e.Kind == PackEmpty || e.Position < 1 || e.Length < 0)
+    if ((e.Kind != PackPicture && e.Kind != PackMusic) || e.Position < 1 || e.Length < 0)
         return false;
     const qint64 start = qint64(e.Position) - 1;
     return start >= Base + Package::BlobsOffset && start + e.Length <= Data.size();
