@@ -22,6 +22,13 @@ public:
     // Page 1..8 of the document, as the page compositor renders it.
     virtual std::optional<QByteArray> renderPage(const Document& doc, int page) = 0;
 
+    // Called on the generating thread once page `page` has been written to the package,
+    // for what rendering a page changes in the document itself.
+    virtual void pageWritten(Document& doc, int page) {
+        (void)doc;
+        (void)page;
+    }
+
     // True when both calls may run on several threads at once (each call only reads the
     // document and shares nothing else).
     virtual bool reentrant() const { return false; }

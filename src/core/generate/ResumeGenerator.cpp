@@ -160,9 +160,11 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
     if (!music.isEmpty() &&
         !append(Package::MusicEntry, PackMusic, ResolvePath(doc_.ScriptPath, music)))
         return fail();
-    for (int page = 1; page <= Package::PageCount; ++page)
+    for (int page = 1; page <= Package::PageCount; ++page) {
         if (!appendPicture(Package::FirstPageEntry + page - 1, nextJob++))
             return fail();
+        pictures.pageWritten(doc_, page);
+    }
     jobs_.reset();
 
     if (!file_.seek(tableAt) || file_.write(EncodePackTable(gen_.Entries)) != Package::TableSize ||
