@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QJsonDocument>
+#include <QScreen>
 
 #include <cstdio>
 
@@ -116,6 +117,8 @@ int main(int argc, char** argv) {
     PlayerWindow window(package);
     if (window.pageCount() == 0)
         return fail(QStringLiteral("%1 holds no page that can be shown").arg(path));
+    // Full screen needs a window manager's help; the geometry makes it fill without one.
+    window.setGeometry(window.screen()->geometry());
     window.showFullScreen();
     return app.exec();
 }
