@@ -64,21 +64,6 @@ TEST_F(PackageReaderTest, ReadsBackWhatWasWritten) {
     }
 }
 
-TEST_F(PackageReaderTest, TellsTheFormFromTheFirstBytes) {
-    QByteArray program = FakePlayer();
-    program.replace(0, 4,
-                    "\x7f"
-                    "ELF");
-    ASSERT_TRUE(WriteAll(box.path(QStringLiteral("pkg")), QByteArray()));
-    gen.setPlayer(program);
-    const QByteArray exe = generate(true);
-    EXPECT_EQ(ParsePackage(exe, PackageForm::Detect).Form, PackageForm::SelfRun);
-    EXPECT_EQ(ParsePackage(exe, PackageForm::Detect).Base, 524288);
-    const QByteArray qdv = generate(false);
-    EXPECT_EQ(ParsePackage(qdv, PackageForm::Detect).Form, PackageForm::Qdv);
-    EXPECT_TRUE(ParsePackage(qdv, PackageForm::Detect).Problems.isEmpty());
-}
-
 // Damage is reported, the rest still reads, and nothing outside the file is touched.
 TEST_F(PackageReaderTest, DamagedPackagesAreReported) {
     const QByteArray good = generate(false);

@@ -229,14 +229,6 @@ TEST_F(PackageWriterTest, PositionsPastTheLimitAreRefused) {
     }
 }
 
-TEST_F(PackageWriterTest, WorkersWriteTheSameBytesAsTheSequentialProcedure) {
-    const QByteArray sequential = generate(true, QStringLiteral("seq.exe"));
-    gen.setParallel(true);
-    const QByteArray parallel = generate(true, QStringLiteral("par.exe"));
-    EXPECT_EQ(parallel, sequential);
-    EXPECT_EQ(pictures.calls, 2 * 10);
-}
-
 TEST_F(PackageWriterTest, FailuresToWriteShowTheWriteError) {
     struct Case {
         const char* name;
