@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include <exception>
 #include <memory>
 
 namespace zentor {
@@ -207,7 +208,13 @@ ResumeGenerator::Outcome ResumeGenerator::writePackage(Document& doc, const QStr
                                                        bool selfRun) {
     ctx_.ensureWorkFolder();
     Writer writer(*this, doc, path);
-    return writer.run(selfRun) ? Outcome::Written : Outcome::Failed;
+    try {
+        return writer.run(selfRun) ? Outcome::Written : Outcome::Failed;
+    } catch (const std::exception&) {
+        // Out of memory while decoding or rendering ends like any other failure to write.
+        prompter_.warn(WriteErrorTitle, QStringLiteral("Can't create file : ") + path);
+        return Outcome::Failed;
+    }
 }
 
 } // namespace zentor
