@@ -100,8 +100,9 @@ TEST_F(PackageReaderTest, DamagedPackagesAreReported) {
         EXPECT_TRUE(p.blob(c.brokenEntry).isEmpty());
         EXPECT_TRUE(p.Problems.first().contains(QStringLiteral("entry %1 ").arg(c.brokenEntry)))
             << p.Problems.first().toStdString();
-        if (c.brokenEntry != 3)
+        if (c.brokenEntry != 3) {
             EXPECT_EQ(p.blob(3), icon);
+        }
     }
 }
 

@@ -224,8 +224,9 @@ TEST_F(PackageWriterTest, PositionsPastTheLimitAreRefused) {
         EXPECT_EQ(limited.writePackage(*doc, out, false),
                   fits ? ResumeGenerator::Outcome::Written : ResumeGenerator::Outcome::Failed);
         EXPECT_TRUE(local.failures().isEmpty()) << local.failures().join('\n').toStdString();
-        if (fits)
+        if (fits) {
             EXPECT_EQ(ReadAll(out), full);
+        }
     }
 }
 
