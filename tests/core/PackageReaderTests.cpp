@@ -60,6 +60,8 @@ TEST_F(PackageReaderTest, ReadsBackWhatWasWritten) {
         EXPECT_EQ(p.blob(3), icon);
         EXPECT_EQ(p.blob(10), music);
         EXPECT_TRUE(p.blob(0).isEmpty());
+        // Tidying a path that was never assigned leaves it unassigned.
+        EXPECT_TRUE(doc->Profile.UserIcon.isNul());
         EXPECT_EQ(QImage::fromData(p.blob(18)).size(), QSize(800, 600));
     }
 }
