@@ -4,9 +4,15 @@
 #include "editor/PropertyPanes.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
+#include "generate/RenderedPictures.h"
+#include "generate/ResumeGenerator.h"
 #include "model/DefaultDocument.h"
 #include "model/ProcessContext.h"
 #include "render/ResImages.h"
+
+#ifdef ZENTOR_HAVE_PLAYER
+#include "PlayerStub.h"
+#endif
 
 #include <QAction>
 #include <QApplication>
@@ -64,6 +70,19 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     statusBar()->addWidget(statusPanel_, 1);
 
     panes_ = new PropertyPanes(picElementLoc_, editor_, prompter_, ctx_, this);
+
+    // Generation renders with the page painter; the self-running kind starts with the
+    // player carried in the program.
+    packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_);
+    generator_ = std::make_unique<ResumeGenerator>(ctx_, prompter_, *packagePictures_);
+    generator_->setParallel(true);
+    editor_.setGenerator([this](bool selfRun) {
+#ifdef ZENTOR_HAVE_PLAYER
+        if (selfRun)
+            generator_->setPlayer(PlayerStub());
+#endif
+        generator_->GenerateResume(doc_, selfRun);
+    });
     wireWorkspace();
     // Room for an 800 x 600 page beside the tool pane, within the screen.
     QSize size(1280, 860);

@@ -10,6 +10,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <memory>
 
 class QAction;
 class QComboBox;
@@ -23,7 +24,9 @@ namespace zentor {
 
 class InPlaceEdit;
 class PropertyPanes;
+class RenderedPictures;
 class ResImages;
+class ResumeGenerator;
 class SelectionFrame;
 class SizeHandle;
 class WorkspaceCanvas;
@@ -98,6 +101,8 @@ private:
     PropertyPanes* panes_ = nullptr;
     const ResImages& res_;
     PictureCache pictures_; // decoded once, so repainting after a drag stays quick
+    std::unique_ptr<RenderedPictures> packagePictures_;
+    std::unique_ptr<ResumeGenerator> generator_;
 
     QMenu* mainFile_ = nullptr;
     QMenu* mainEdit_ = nullptr;

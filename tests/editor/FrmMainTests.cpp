@@ -338,6 +338,28 @@ TEST_F(WindowTest, ALargeFrameScrollsByMovingTheWorkspace) {
     EXPECT_EQ(ws->y(), vs->minimum() - vs->value());
 }
 
+TEST_F(WindowTest, TheGenerateCommandsWriteBothKindsOfPackage) {
+    struct Case {
+        int command;
+        const char* title;
+        const char* filter;
+        const char* name;
+    };
+    const Case cases[] = {{CmdGenerateQdv, "Generate QDV File", "*.qdv|*.qdv", "cv.qdv"},
+                          {CmdGenerateSelfrun, "Generate Selfrun File", "*.exe|*.exe", "cv.exe"}};
+    qint64 sizes[2] = {};
+    for (int i = 0; i < 2; ++i) {
+        const QString path = sandbox.path(QString::fromLatin1(cases[i].name));
+        prompter.expectFile(true, cases[i].title, cases[i].filter, path);
+        run(cases[i].command);
+        sizes[i] = QFileInfo(path).size();
+        EXPECT_GT(sizes[i], 0) << cases[i].name;
+    }
+    // The self-running one is the same package behind the player.
+    EXPECT_EQ(sizes[1] - sizes[0], sandbox.ctx.PlayerStubSize);
+    EXPECT_EQ(find<QLabel>("StatusPanel1")->text(), "Ready");
+}
+
 TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
     struct Case {
         Prompter::Answer answer;
