@@ -292,7 +292,6 @@ void FrmMain::buildFrame() {
     picWorkSpace_ = new WorkspaceCanvas(picShow_);
     picWorkSpace_->setObjectName(QStringLiteral("PicWorkSpace"));
     picWorkSpace_->setGeometry(0, 0, 800, 600);
-    picWorkSpace_->matchBufferToSize();
 
     labAdd_ = new SelectionFrame(picWorkSpace_);
     labAdd_->setObjectName(QStringLiteral("LabAdd"));

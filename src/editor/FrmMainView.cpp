@@ -19,13 +19,8 @@
 namespace zentor {
 
 void FrmMain::paintWorkspace(int tab, int hoverIcon) {
-    picWorkSpace_->matchBufferToSize();
-    QImage page = PaintWorkspace(doc_, tab, hoverIcon, res_, ctx_, &pictures_);
-    if (page.size() == picWorkSpace_->size())
-        picWorkSpace_->buffer() = std::move(page);
-    else
-        picWorkSpace_->buffer().fill(Qt::white); // a frame the painter refuses shows blank
-    picWorkSpace_->update();
+    // A frame the painter refuses (a null picture) shows as a white page.
+    picWorkSpace_->setBuffer(PaintWorkspace(doc_, tab, hoverIcon, res_, ctx_, &pictures_));
 }
 
 void FrmMain::setObjectRows(const QStringList& rows) {
@@ -133,7 +128,6 @@ IntPoint FrmMain::viewportSize() const {
 
 void FrmMain::placeWorkspace(const IntRect& r) {
     picWorkSpace_->setGeometry(r.Left, r.Top, r.Width, r.Height);
-    picWorkSpace_->matchBufferToSize();
     updateScrollBars(false);
 }
 

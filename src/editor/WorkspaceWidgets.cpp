@@ -39,16 +39,18 @@ WorkspaceCanvas::WorkspaceCanvas(QWidget* parent) : WorkspaceItem(parent) {
     setFocusPolicy(Qt::ClickFocus); // a press leaves (and so commits) the box being edited
 }
 
-void WorkspaceCanvas::matchBufferToSize() {
-    if (buffer_.size() == size())
-        return;
-    buffer_ = QImage(size(), QImage::Format_ARGB32_Premultiplied);
-    buffer_.fill(Qt::white);
+void WorkspaceCanvas::setBuffer(QImage page) {
+    buffer_ = std::move(page);
+    update();
 }
 
 void WorkspaceCanvas::paintEvent(QPaintEvent* e) {
     QPainter p(this);
-    p.drawImage(e->rect(), buffer_, e->rect());
+    const QRect shown = e->rect().intersected(buffer_.rect());
+    if (!shown.isEmpty())
+        p.drawImage(shown, buffer_, shown);
+    for (const QRect& r : QRegion(e->rect()).subtracted(shown))
+        p.fillRect(r, Qt::white);
 }
 
 SelectionFrame::SelectionFrame(QWidget* parent) : WorkspaceItem(parent) {

@@ -36,9 +36,9 @@ class WorkspaceCanvas : public WorkspaceItem {
     Q_OBJECT
 public:
     explicit WorkspaceCanvas(QWidget* parent);
-    QImage& buffer() { return buffer_; }
-    // Makes the back buffer match the widget's size (its contents are lost).
-    void matchBufferToSize();
+    const QImage& buffer() const { return buffer_; }
+    // The page picture to show; where it does not reach, the workspace shows white.
+    void setBuffer(QImage page);
 
 protected:
     void paintEvent(QPaintEvent* e) override;
