@@ -8,15 +8,11 @@ struct PropertyPanes::Impl {};
 PropertyPanes::PropertyPanes(const std::array<QWidget*, 5>&, Editor&, Prompter&,
                              const ProcessContext&, QObject* parent)
     : QObject(parent), d_(new Impl) {}
-PropertyPanes::~PropertyPanes() {
-    delete d_;
-}
+PropertyPanes::~PropertyPanes() { delete d_; }
 void PropertyPanes::loadObject(int, int) {}
 void PropertyPanes::showObjectGeometry(int, const IntRect&) {}
 void PropertyPanes::runFileCommand(EditorView::FileCommand) {}
 void PropertyPanes::commitPendingEdit() {}
-bool PropertyPanes::showSettings(QWidget*) {
-    return false;
-}
+bool PropertyPanes::showSettings(QWidget*) { return false; }
 
 } // namespace zentor
