@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <mutex>
 
 namespace zentor {
@@ -194,8 +195,20 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     g.restore();
 }
 
+// The text of a field without decoding its padding: a 4096-byte field usually holds a few
+// hundred bytes of text, and pages are repainted while the user drags.
+static QString ShownText(const FixedString<4096>& field) {
+    const char* begin = field.data();
+    const char* nul = static_cast<const char*>(std::memchr(begin, '\0', 4096));
+    qsizetype len = nul ? nul - begin : 4096;
+    // A blank byte is never part of a multi-byte character in the code pages we read.
+    while (len > 0 && begin[len - 1] == ' ')
+        --len;
+    return CodePage::active().decode(QByteArrayView(begin, len));
+}
+
 void DrawTextElement(QPainter& g, const TextElement& t) {
-    DrawFontText(g, t.Text.text(), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
+    DrawFontText(g, ShownText(t.Text), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
                  t.FontSize, t.FontStyle, t.Align, t.LineAlign, uint32_t(t.FontColor), t.FontShadow,
                  t.TextHint, 1);
 }
