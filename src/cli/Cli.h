@@ -2,9 +2,9 @@
 
 #include "model/ProcessContext.h"
 
-#include <QString>
 #include <QHash>
 #include <QJsonObject>
+#include <QString>
 #include <QStringList>
 
 #include <functional>
@@ -26,7 +26,7 @@ struct Args {
 
 struct Command {
     QString name;
-    QString usage; // the synopsis printed by "zentor-cli help"
+    QString usage;            // the synopsis printed by "zentor-cli help"
     QStringList valueOptions; // options that take a value, e.g. "--as"
     std::function<int(const Args&, const ProcessContext&)> run;
 };

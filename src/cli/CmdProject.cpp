@@ -53,8 +53,7 @@ int runInfo(const Args& args, const ProcessContext& ctx) {
     if (args.positional.size() != 1)
         return Fail(QStringLiteral("usage: zentor-cli info FILE [--as qds|qdv|exe]"), ExitUsage);
     const QString path = args.positional[0];
-    QString format = args.options.value(QStringLiteral("--as"),
-                                        QFileInfo(path).suffix().toLower());
+    QString format = args.options.value(QStringLiteral("--as"), QFileInfo(path).suffix().toLower());
     if (format == QLatin1String("qds"))
         return infoProject(path, ctx);
     if (format == QLatin1String("qdv") || format == QLatin1String("exe"))
@@ -90,9 +89,12 @@ int runPack(const Args& args, const ProcessContext& ctx) {
 }
 
 const Register regNew({QStringLiteral("new"), QStringLiteral("new OUT.qds"), {}, runNew});
-const Register regInfo({QStringLiteral("info"), QStringLiteral("info FILE [--as qds|qdv|exe]"),
-                        {QStringLiteral("--as")}, runInfo});
-const Register regPack({QStringLiteral("pack"), QStringLiteral("pack IN.json OUT.qds"), {}, runPack});
+const Register regInfo({QStringLiteral("info"),
+                        QStringLiteral("info FILE [--as qds|qdv|exe]"),
+                        {QStringLiteral("--as")},
+                        runInfo});
+const Register
+    regPack({QStringLiteral("pack"), QStringLiteral("pack IN.json OUT.qds"), {}, runPack});
 
 } // namespace
 } // namespace zentor::cli

@@ -70,8 +70,8 @@ const ScriptedPrompter::Step* ScriptedPrompter::next(Step::Kind kind, const QStr
     return &s;
 }
 
-Prompter::Answer ScriptedPrompter::ask(const QString& title, const QString& text,
-                                       Buttons buttons, Icon icon, Answer defaultAnswer) {
+Prompter::Answer ScriptedPrompter::ask(const QString& title, const QString& text, Buttons buttons,
+                                       Icon icon, Answer defaultAnswer) {
     const Step* s = next(Step::Ask, title + QStringLiteral(" | ") + text);
     if (!s)
         return Answer::Cancel;
@@ -80,21 +80,22 @@ Prompter::Answer ScriptedPrompter::ask(const QString& title, const QString& text
                              .arg(title, text, s->title, s->text));
     if (s->checkButtons &&
         (s->buttons != buttons || s->icon != icon || s->defaultAnswer != defaultAnswer))
-        failures_.append(QStringLiteral("wrong buttons, icon or default button for \"%1\"")
-                             .arg(text));
+        failures_.append(
+            QStringLiteral("wrong buttons, icon or default button for \"%1\"").arg(text));
     return s->answer;
 }
 
 QString ScriptedPrompter::chooseFile(bool save, const QString& title, const QString& filter,
                                      const QString&, const QString&, const QString&) {
-    const Step* s = next(Step::File, QStringLiteral("file: ") + title + QStringLiteral(" | ") + filter);
+    const Step* s =
+        next(Step::File, QStringLiteral("file: ") + title + QStringLiteral(" | ") + filter);
     if (!s)
         return QString();
     if (s->title != title || s->text != filter || s->save != save)
-        failures_.append(QStringLiteral("file dialog \"%1\" (%2, %3), expected \"%4\" (%5, %6)")
-                             .arg(title, filter, save ? QStringLiteral("save") : QStringLiteral("open"),
-                                  s->title, s->text,
-                                  s->save ? QStringLiteral("save") : QStringLiteral("open")));
+        failures_.append(
+            QStringLiteral("file dialog \"%1\" (%2, %3), expected \"%4\" (%5, %6)")
+                .arg(title, filter, save ? QStringLiteral("save") : QStringLiteral("open"),
+                     s->title, s->text, s->save ? QStringLiteral("save") : QStringLiteral("open")));
     return s->path;
 }
 

@@ -19,7 +19,7 @@ public:
         QString title;
         QString text; // the message, or the file dialog's filter
         Answer answer = Answer::Cancel;
-        QString path;  // file dialog result
+        QString path; // file dialog result
         uint32_t color = 0;
         Buttons buttons = Buttons::Ok;
         Icon icon = Icon::None;

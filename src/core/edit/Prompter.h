@@ -23,7 +23,8 @@ public:
     // A file dialog. `filter` uses the "|" syntax: description|pattern|description|pattern.
     // Returns the chosen full path, or an empty string when cancelled.
     virtual QString chooseFile(bool save, const QString& title, const QString& filter,
-                               const QString& initFile = QString(), const QString& defExt = QString(),
+                               const QString& initFile = QString(),
+                               const QString& defExt = QString(),
                                const QString& initDir = QString()) = 0;
 
     // The colour chooser: 0x00BBGGRR, or 0 when cancelled (the same as black).

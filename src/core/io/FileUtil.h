@@ -13,7 +13,8 @@ bool IsRegularFile(const QString& path);
 // Reads a whole regular file into `buffer` (resized to its length) and returns the length.
 // On failure returns 0 and leaves `buffer` as it was. A trimmed empty path means
 // `emptyMeans` (the temporary picture, for the generator).
-qint64 ReadFileBytes(const QString& path, QByteArray& buffer, const QString& emptyMeans = QString());
+qint64 ReadFileBytes(const QString& path, QByteArray& buffer,
+                     const QString& emptyMeans = QString());
 
 // Blanks trimmed at both ends, then cut before the first NUL.
 QString TrimNull(const QString& s);

@@ -8,7 +8,9 @@ namespace {
 // One description of each record's fields serves both directions.
 struct ToJson {
     QJsonObject obj;
-    template <typename T> void num(const char* key, const T& v) { obj.insert(QLatin1String(key), int(v)); }
+    template <typename T> void num(const char* key, const T& v) {
+        obj.insert(QLatin1String(key), int(v));
+    }
     template <int N> void str(const char* key, const FixedString<N>& s) {
         obj.insert(QLatin1String(key), s.isNul() ? QJsonValue() : QJsonValue(s.text()));
     }
@@ -136,14 +138,18 @@ QJsonObject tabToJson(const TabRecord& t) {
 }
 
 void tabFromJson(const QJsonValue& v, TabRecord& t, const QString& where, QString& error) {
-    fromJson(v, t, [&](FromJson& io, TabRecord& r) {
-        fromJson(io.obj.value(QStringLiteral("Picture")), r.Picture,
-                 [](FromJson& pio, ImageElement& e) { imageFields(pio, e); },
-                 where + QStringLiteral(".Picture"), error);
-        io.str("Icon", r.Icon);
-        io.str("Name", r.Name);
-        io.num("Extra", r.Extra);
-    }, where, error);
+    fromJson(
+        v, t,
+        [&](FromJson& io, TabRecord& r) {
+            fromJson(
+                io.obj.value(QStringLiteral("Picture")), r.Picture,
+                [](FromJson& pio, ImageElement& e) { imageFields(pio, e); },
+                where + QStringLiteral(".Picture"), error);
+            io.str("Icon", r.Icon);
+            io.str("Name", r.Name);
+            io.num("Extra", r.Extra);
+        },
+        where, error);
 }
 
 template <typename Rec, std::size_t N, typename Fields>
@@ -158,12 +164,14 @@ void listFromJson(const QJsonValue& v, std::array<Rec, N>& table, Fields fields,
     const QJsonArray arr = v.toArray();
     if (arr.size() > qsizetype(N - 1)) {
         error = QStringLiteral("%1 holds %2 records; at most %3 fit")
-                    .arg(name).arg(arr.size()).arg(N - 1);
+                    .arg(name)
+                    .arg(arr.size())
+                    .arg(N - 1);
         return;
     }
     for (qsizetype i = 0; i < arr.size() && error.isEmpty(); ++i)
-        fromJson(arr.at(i), table[size_t(i + 1)], fields,
-                 QStringLiteral("%1[%2]").arg(name).arg(i), error);
+        fromJson(arr.at(i), table[size_t(i + 1)], fields, QStringLiteral("%1[%2]").arg(name).arg(i),
+                 error);
 }
 
 } // namespace
@@ -186,23 +194,28 @@ QJsonObject ProjectToJson(const Document& doc, int textCount, int imageCount) {
     root.insert(QStringLiteral("Tabs"), tabs);
     QJsonArray texts;
     for (int i = 1; i <= std::min(textCount, MaxTexts); ++i)
-        texts.append(toJson(doc.Texts[i], [](ToJson& io, const TextElement& r) { textFields(io, r); }));
+        texts.append(
+            toJson(doc.Texts[i], [](ToJson& io, const TextElement& r) { textFields(io, r); }));
     root.insert(QStringLiteral("Texts"), texts);
     QJsonArray images;
     for (int i = 1; i <= std::min(imageCount, MaxImages); ++i)
-        images.append(toJson(doc.Images[i], [](ToJson& io, const ImageElement& r) { imageFields(io, r); }));
+        images.append(
+            toJson(doc.Images[i], [](ToJson& io, const ImageElement& r) { imageFields(io, r); }));
     root.insert(QStringLiteral("Images"), images);
     return root;
 }
 
 QString ApplyProjectJson(const QJsonObject& json, Document& doc) {
     QString error;
-    fromJson(json.value(QStringLiteral("Header")), doc.Header,
-             [](FromJson& io, ScriptHeader& r) { headerFields(io, r); }, QStringLiteral("Header"), error);
+    fromJson(
+        json.value(QStringLiteral("Header")), doc.Header,
+        [](FromJson& io, ScriptHeader& r) { headerFields(io, r); }, QStringLiteral("Header"),
+        error);
     if (error.isEmpty())
-        fromJson(json.value(QStringLiteral("Profile")), doc.Profile,
-                 [](FromJson& io, ProfileRecord& r) { profileFields(io, r); },
-                 QStringLiteral("Profile"), error);
+        fromJson(
+            json.value(QStringLiteral("Profile")), doc.Profile,
+            [](FromJson& io, ProfileRecord& r) { profileFields(io, r); }, QStringLiteral("Profile"),
+            error);
     const QJsonValue tabs = json.value(QStringLiteral("Tabs"));
     if (error.isEmpty() && !tabs.isUndefined() && !tabs.isNull()) {
         if (!tabs.isArray() || tabs.toArray().size() > 8) {
@@ -210,18 +223,20 @@ QString ApplyProjectJson(const QJsonObject& json, Document& doc) {
         } else {
             const QJsonArray arr = tabs.toArray();
             for (qsizetype i = 0; i < arr.size() && error.isEmpty(); ++i)
-                tabFromJson(arr.at(i), doc.Tabs[size_t(i + 1)],
-                            QStringLiteral("Tabs[%1]").arg(i), error);
+                tabFromJson(arr.at(i), doc.Tabs[size_t(i + 1)], QStringLiteral("Tabs[%1]").arg(i),
+                            error);
         }
     }
     if (error.isEmpty())
-        listFromJson(json.value(QStringLiteral("Texts")), doc.Texts,
-                     [](FromJson& io, TextElement& r) { textFields(io, r); }, QStringLiteral("Texts"),
-                     error);
+        listFromJson(
+            json.value(QStringLiteral("Texts")), doc.Texts,
+            [](FromJson& io, TextElement& r) { textFields(io, r); }, QStringLiteral("Texts"),
+            error);
     if (error.isEmpty())
-        listFromJson(json.value(QStringLiteral("Images")), doc.Images,
-                     [](FromJson& io, ImageElement& r) { imageFields(io, r); },
-                     QStringLiteral("Images"), error);
+        listFromJson(
+            json.value(QStringLiteral("Images")), doc.Images,
+            [](FromJson& io, ImageElement& r) { imageFields(io, r); }, QStringLiteral("Images"),
+            error);
     return error;
 }
 

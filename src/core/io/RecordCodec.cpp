@@ -6,10 +6,18 @@
 
 namespace zentor {
 
-void PutInt32(char* at, int32_t v) { qToLittleEndian<qint32>(v, at); }
-void PutInt16(char* at, int16_t v) { qToLittleEndian<qint16>(v, at); }
-int32_t GetInt32(const char* at) { return qFromLittleEndian<qint32>(at); }
-int16_t GetInt16(const char* at) { return qFromLittleEndian<qint16>(at); }
+void PutInt32(char* at, int32_t v) {
+    qToLittleEndian<qint32>(v, at);
+}
+void PutInt16(char* at, int16_t v) {
+    qToLittleEndian<qint16>(v, at);
+}
+int32_t GetInt32(const char* at) {
+    return qFromLittleEndian<qint32>(at);
+}
+int16_t GetInt16(const char* at) {
+    return qFromLittleEndian<qint16>(at);
+}
 
 namespace {
 
@@ -126,13 +134,16 @@ void decode(QByteArrayView bytes, Rec& rec, Fields fields) {
 } // namespace
 
 QByteArray EncodeHeader(const ScriptHeader& h) {
-    return encode<RecordSize::Header>(h, [](Writer& w, const ScriptHeader& r) { headerFields(w, r); });
+    return encode<RecordSize::Header>(h,
+                                      [](Writer& w, const ScriptHeader& r) { headerFields(w, r); });
 }
 QByteArray EncodeProfile(const ProfileRecord& p) {
-    return encode<RecordSize::Profile>(p, [](Writer& w, const ProfileRecord& r) { profileFields(w, r); });
+    return encode<RecordSize::Profile>(
+        p, [](Writer& w, const ProfileRecord& r) { profileFields(w, r); });
 }
 QByteArray EncodeImage(const ImageElement& e) {
-    return encode<RecordSize::Image>(e, [](Writer& w, const ImageElement& r) { imageFields(w, r); });
+    return encode<RecordSize::Image>(e,
+                                     [](Writer& w, const ImageElement& r) { imageFields(w, r); });
 }
 QByteArray EncodeTab(const TabRecord& t) {
     return encode<RecordSize::Tab>(t, [](Writer& w, const TabRecord& r) { tabFields(w, r); });

@@ -12,9 +12,8 @@ namespace zentor {
 
 namespace {
 
-constexpr qint64 kMaxProjectSize = RecordSize::Header + RecordSize::Profile +
-                                   8 * RecordSize::Tab + MaxTexts * RecordSize::Text +
-                                   MaxImages * RecordSize::Image;
+constexpr qint64 kMaxProjectSize = RecordSize::Header + RecordSize::Profile + 8 * RecordSize::Tab +
+                                   MaxTexts * RecordSize::Text + MaxImages * RecordSize::Image;
 
 // Hands out the file's records in order; a record cut short by the end of the file comes
 // back zero-filled behind the bytes present, one wholly past the end not at all.
@@ -43,8 +42,8 @@ private:
 QByteArray SerializeScript(Document& doc) {
     doc.Header.TextCount = int32_t(std::count_if(doc.Texts.begin() + 1, doc.Texts.end(),
                                                  [](const TextElement& t) { return inUse(t); }));
-    doc.Header.ImageCount = int32_t(std::count_if(
-        doc.Images.begin() + 1, doc.Images.end(), [](const ImageElement& e) { return inUse(e); }));
+    doc.Header.ImageCount = int32_t(std::count_if(doc.Images.begin() + 1, doc.Images.end(),
+                                                  [](const ImageElement& e) { return inUse(e); }));
 
     QByteArray out;
     out.reserve(RecordSize::Header + RecordSize::Profile + 8 * RecordSize::Tab +

@@ -11,9 +11,9 @@ namespace zentor {
 struct LoadReport {
     bool opened = false;
     qint64 fileSize = 0;
-    int tabsRead = 0;     // tab records read, the last one possibly cut short
-    int textsRead = 0;    // text records read, likewise
-    int imagesRead = 0;   // image records read, likewise
+    int tabsRead = 0;      // tab records read, the last one possibly cut short
+    int textsRead = 0;     // text records read, likewise
+    int imagesRead = 0;    // image records read, likewise
     bool complete = false; // every record the file's counts promise was there in full
 };
 

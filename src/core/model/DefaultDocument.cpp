@@ -6,7 +6,7 @@ namespace zentor {
 
 QString ResImageName(int slot) {
     static const char* const names[ResImageCount] = {
-        "",        "OVERVIEW", "AWARDS", "EDUCATION", "EXPERIENCE", "SKILLS", "OBJECTIVE",
+        "",         "OVERVIEW", "AWARDS", "EDUCATION", "EXPERIENCE", "SKILLS", "OBJECTIVE",
         "PERSONAL", "PLAYSHOW", "BORDER", "LOGO",      "HIRED",      ""};
     if (slot < 0 || slot >= ResImageCount)
         return QString();
@@ -37,7 +37,7 @@ void NewDocument(Document& doc, const ProcessContext& ctx) {
     doc.Tabs.fill(TabRecord{});
 
     static const char* const tabNames[MaxTab + 1] = {
-        "Slide Show", "Overview", "Awards",    "Education", "Experience",
+        "Slide Show",         "Overview",  "Awards",   "Education", "Experience",
         "Skills & Interests", "Objective", "Personal", "Slide Show"};
     for (int i = 0; i <= MaxTab; ++i)
         doc.Tabs[i].Name = tabNames[i];

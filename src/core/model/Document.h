@@ -29,7 +29,11 @@ struct Document {
 };
 
 // An object slot is in use when its TabNo is 1 or more.
-inline bool inUse(const ImageElement& e) { return e.TabNo >= 1; }
-inline bool inUse(const TextElement& e) { return e.TabNo >= 1; }
+inline bool inUse(const ImageElement& e) {
+    return e.TabNo >= 1;
+}
+inline bool inUse(const TextElement& e) {
+    return e.TabNo >= 1;
+}
 
 } // namespace zentor

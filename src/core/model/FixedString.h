@@ -41,9 +41,7 @@ public:
     void clearToNul() { bytes_.fill('\0'); }
 
     // The whole field decoded, padding and NULs included.
-    QString raw() const {
-        return CodePage::active().decode(QByteArrayView(bytes_.data(), N));
-    }
+    QString raw() const { return CodePage::active().decode(QByteArrayView(bytes_.data(), N)); }
     // Up to the first NUL, blanks removed at both ends: how paths are read.
     QString trimNull() const { return upToNul().trimmed(); }
     // Up to the first NUL with trailing blanks removed: how names and texts are shown.

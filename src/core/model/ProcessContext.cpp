@@ -24,7 +24,9 @@ ProcessContext ProcessContext::create(const QString& appDir, const QString& temp
     return ctx;
 }
 
-bool ProcessContext::ensureWorkFolder() const { return QDir().mkpath(WorkFolder); }
+bool ProcessContext::ensureWorkFolder() const {
+    return QDir().mkpath(WorkFolder);
+}
 
 void ProcessContext::removeWorkFolder() const {
     if (!WorkFolder.isEmpty())
@@ -34,11 +36,11 @@ void ProcessContext::removeWorkFolder() const {
 void PrepareRuntimeDir() {
     if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
         return;
-    const QString dir = QDir::tempPath() + QStringLiteral("/zentor-runtime-") +
-                        QString::number(uint(getuid()));
+    const QString dir =
+        QDir::tempPath() + QStringLiteral("/zentor-runtime-") + QString::number(uint(getuid()));
     QDir().mkpath(dir);
-    QFile::setPermissions(dir, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                   QFileDevice::ExeOwner);
+    QFile::setPermissions(dir,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(dir));
 }
 

@@ -66,9 +66,9 @@ struct TextElement {
     int32_t Height = 0;
     FixedString<31> FontName;
     int32_t FontSize = 0;
-    int32_t FontStyle = 0; // bold 1, italic 2, underline 4, strikeout 8
-    int32_t Align = 0;     // 0 left, 1 centre, 2 right
-    int32_t FontColor = 0; // 0xAARRGGBB
+    int32_t FontStyle = 0;  // bold 1, italic 2, underline 4, strikeout 8
+    int32_t Align = 0;      // 0 left, 1 centre, 2 right
+    int32_t FontColor = 0;  // 0xAARRGGBB
     int16_t FontShadow = 0; // -1 shadow, 0 none
     int32_t TextHint = 0;
     int32_t LineAlign = 0; // 0 top, 1 centre, 2 bottom

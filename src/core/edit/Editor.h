@@ -1,0 +1,118 @@
+#pragma once
+
+#include "edit/EditorState.h"
+#include "edit/EditorView.h"
+#include "edit/Prompter.h"
+#include "model/Document.h"
+#include "model/ProcessContext.h"
+
+#include <functional>
+
+namespace zentor {
+
+// Command numbers; the toolbar button index is the command number.
+enum Command : int {
+    CmdNew = 2,
+    CmdOpen = 3,
+    CmdSave = 4,
+    CmdSaveAs = 5,
+    CmdInsertImage = 6,
+    CmdInsertText = 7,
+    CmdDelete = 8,
+    CmdMoveToTop = 10,
+    CmdMoveToBottom = 11,
+    CmdPreviousTab = 12,
+    CmdNextTab = 13,
+    CmdGenerateQdv = 15,
+    CmdGenerateSelfrun = 16,
+    CmdSettings = 17,
+};
+
+enum class MouseButton { Left, Right, Middle };
+
+// The main window's decisions, headless. The window forwards its events here and shows what
+// the editor tells its EditorView; every question goes through the Prompter. Positions are
+// workspace pixels (for the frame and its handles too: add the frame's offset).
+class Editor {
+public:
+    using Generator = std::function<void(bool selfRun)>;
+
+    Editor(Document& doc, const ProcessContext& ctx, EditorView& view, Prompter& prompter);
+
+    Document& document() { return doc_; }
+    const EditorState& state() const { return st_; }
+    EditorState& state() { return st_; }
+    // Generation is reached through this (the default does nothing).
+    void setGenerator(Generator g) { generate_ = std::move(g); }
+
+    // --- Window lifecycle ---
+    // Start-up: frame placed, profile page shown, the command-line project opened if any.
+    void formLoad();
+    // The exit question; true when the window may close.
+    bool queryUnload();
+
+    // --- Commands ---
+    // Runs command `index` with its prompts and the ending steps (Dirty for 6..11, status).
+    void CommonModth(int index);
+    // A menu or toolbar click: commits an open in-place edit first.
+    void menuCommand(int index);
+    // The About menu: 1 the support page, 2 the home page, 6 the about box.
+    void aboutMenu(int index);
+
+    // --- Pages and the object list ---
+    void RefreshTab(int tab); // redraw, keep the selection
+    void LoadTab(int tab);    // redraw, select the page itself
+    void chooseRow(int row);  // the user (or the editor) chose a row of the object list
+    void Select_Object(int kind);
+    void ShowAdd(bool show);
+    // Places the selection frame, clamped; `r` receives the clamped values.
+    void moveAdd(IntRect& r);
+    // Copies the frame's geometry into the selected object and the panel's boxes.
+    void RefreshData();
+
+    // --- Tab strip ---
+    void stripClicked(); // after the user selected a strip tab
+
+    // --- Workspace mouse ---
+    void workspaceMouseDown(MouseButton b, IntPoint p);
+    void workspaceMouseMove(IntPoint p);
+    void workspaceMouseUp(MouseButton b);
+    void workspaceClick();
+    void workspaceDoubleClick();
+    void frameMouseDown(MouseButton b, IntPoint p);
+    void frameMouseMove(IntPoint p);
+    void frameMouseUp(MouseButton b);
+    void frameDoubleClick();
+    void handleMouseDown(int handle, IntPoint p);
+    void handleMouseMove(int handle, IntPoint p);
+    void handleMouseUp(int handle);
+
+    // --- In-place text editor ---
+    void inPlaceTextChanged() { doc_.Dirty = true; }
+    // Stores an open in-place edit into the selected text and closes the editor.
+    void commitInPlaceEdit();
+
+private:
+    void fillPage(int tab);
+    void selectRow(int row);
+    void applyStripCaptions();
+    void sizeAndCentreWorkspace();
+    bool save(bool alwaysAsk);
+    void newOrOpen(int index);
+    void insert(int kind);
+    void step(bool next);
+    void endingSteps(int index);
+    void moveFrameTo(IntPoint p);
+
+    Document& doc_;
+    const ProcessContext& ctx_;
+    EditorView& view_;
+    Prompter& prompter_;
+    EditorState st_;
+    Generator generate_;
+};
+
+// The support page opened by the About menu's "&Help".
+QString SupportPage();
+
+} // namespace zentor

@@ -1,0 +1,184 @@
+#include "TestSupport.h"
+
+#include "io/FileUtil.h"
+#include "model/CodePage.h"
+#include "model/DefaultDocument.h"
+#include "model/TabMap.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+using namespace zentor;
+using namespace zentor::test;
+
+TEST(DefaultDocument, DefaultsAndWhichFieldsStayNul) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    const ScriptHeader& h = doc->Header;
+    EXPECT_EQ(h.FrameWidth, 800);
+    EXPECT_EQ(h.FrameHeight, 600);
+    EXPECT_EQ(h.MusicVolume, 500);
+    EXPECT_EQ(h.AutoRepeat, 1);
+    EXPECT_EQ(h.ShowSpeed, 20);
+    EXPECT_EQ(h.ShowAsRun, 1);
+    EXPECT_EQ(h.KeepOnTime, 7000);
+    EXPECT_EQ(h.BackPicture.trimNull(), box.ctx.AppPath + QStringLiteral("Res/bakpic.jpg"));
+    EXPECT_FALSE(h.BackMusic.isNul());
+    EXPECT_TRUE(h.BackMusic.trimNull().isEmpty());
+    EXPECT_TRUE(doc->Profile.UserIcon.isNul());
+    EXPECT_TRUE(doc->Profile.Phone.isNul());
+    EXPECT_EQ(doc->Profile.Email.text(), QString::fromLatin1(SupportEmail));
+    EXPECT_EQ(doc->Profile.Website.text(), QString::fromLatin1(HomePage));
+
+    const char* names[] = {"Slide Show",         "Overview",  "Awards",   "Education", "Experience",
+                           "Skills & Interests", "Objective", "Personal", "Slide Show"};
+    for (int i = 0; i <= 8; ++i) {
+        EXPECT_EQ(doc->Tabs[i].Name.text(), QString::fromLatin1(names[i]));
+        EXPECT_TRUE(doc->Tabs[i].Icon.isNul());
+        EXPECT_TRUE(doc->Tabs[i].Picture.FileName.isNul());
+    }
+    const TextElement& t = doc->Texts[0];
+    EXPECT_EQ(t.FontName.text(), QStringLiteral("Arial"));
+    EXPECT_EQ(t.FontSize, 12);
+    EXPECT_EQ(t.FontColor, -1);
+    EXPECT_EQ(t.FontShadow, -1);
+    EXPECT_EQ(t.TextHint, 4);
+    EXPECT_EQ(t.Width, 150);
+    EXPECT_TRUE(t.Text.isNul());
+    EXPECT_EQ(doc->Images[0].PicAlign, 3);
+    EXPECT_EQ(doc->Images[0].Width, 120);
+}
+
+TEST(DefaultDocument, NewForgetsEveryObjectAndThePath) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    doc->Texts[5].TabNo = 2;
+    doc->Images[32].TabNo = 1;
+    doc->ScriptPath = QStringLiteral("/x.qds");
+    doc->Dirty = true;
+    NewDocument(*doc, box.ctx);
+    EXPECT_EQ(doc->Texts[5].TabNo, 0);
+    EXPECT_EQ(doc->Images[32].TabNo, 0);
+    EXPECT_TRUE(doc->ScriptPath.isEmpty());
+    EXPECT_EQ(GetArrNo(*doc, 1), 1);
+    EXPECT_EQ(GetArrNo(*doc, 2), 1);
+}
+
+TEST(TabMap, ArrNoFindsTheLowestExactlyFreeSlot) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    for (int i = 1; i <= MaxImages; ++i)
+        doc->Images[i].TabNo = 1;
+    EXPECT_EQ(GetArrNo(*doc, 1), 0);
+    doc->Images[20].TabNo = -1; // negative: not free
+    EXPECT_EQ(GetArrNo(*doc, 1), 0);
+    doc->Images[31].TabNo = 0;
+    EXPECT_EQ(GetArrNo(*doc, 1), 31);
+    doc->Texts[1].TabNo = 3;
+    EXPECT_EQ(GetArrNo(*doc, 2), 2);
+    EXPECT_EQ(GetArrNo(*doc, 0), 0);
+    EXPECT_EQ(GetArrNo(*doc, 3), 0);
+}
+
+TEST(TabMap, StripPositionsBothWays) {
+    const int strip[] = {1, 8, 7, 6, 5, 4, 3, 2, 9};
+    for (int tab = 0; tab <= 8; ++tab) {
+        EXPECT_EQ(GetTabIndex(tab), strip[tab]) << tab;
+        EXPECT_EQ(StripToTab(strip[tab]), tab) << tab;
+    }
+    EXPECT_EQ(GetTabIndex(-1), 0);
+    EXPECT_EQ(GetTabIndex(9), 0);
+    EXPECT_EQ(StripToTab(0), 0); // not a strip position: left as it is
+    EXPECT_EQ(StripToTab(12), 12);
+}
+
+TEST(ProcessContext, CommandLineRule) {
+    struct Case {
+        QStringList args;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {{}, ""},
+        {{"cv.qds"}, "cv.qds"},
+        {{"\"/home/a b/cv.qds\""}, "/home/a b/cv.qds"},
+        {{"/home/a", "b/cv.qds"}, "/home/a b/cv.qds"},
+        {{"\"/tmp/cv.qds"}, "/tmp/cv.qds"},
+        {{"/tmp/cv.qds\""}, "/tmp/cv.qds"},
+        {{"\"\"x\"\""}, "\"x\""},
+        {{"\""}, ""},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(CommandLineFromArguments(c.args), QString::fromUtf8(c.expected))
+            << c.args.join(QLatin1Char('|')).toStdString();
+}
+
+TEST(ProcessContext, WorkFolderComesBackAndGoesAway) {
+    QTemporaryDir temp;
+    const ProcessContext ctx =
+        ProcessContext::create(QStringLiteral("/opt/zentor/bin"), temp.path());
+    EXPECT_EQ(ctx.AppPath, QStringLiteral("/opt/zentor/bin/"));
+    EXPECT_EQ(ctx.WorkFolder, temp.path() + QStringLiteral("/Zentor/"));
+    EXPECT_EQ(ctx.TempImagePath, ctx.WorkFolder + QStringLiteral("tempgen.jpg"));
+    EXPECT_EQ(ctx.PlayerStubSize, 524288);
+    EXPECT_TRUE(QDir(ctx.WorkFolder).exists());
+    ctx.removeWorkFolder();
+    EXPECT_FALSE(QDir(ctx.WorkFolder).exists());
+    EXPECT_TRUE(ctx.ensureWorkFolder());
+    EXPECT_TRUE(QDir(ctx.WorkFolder).exists());
+}
+
+TEST(FileUtil, HexColorTrimNullAndPaths) {
+    EXPECT_EQ(HexColor(255, 6), QStringLiteral("0000FF"));
+    EXPECT_EQ(HexColor(0x1234567, 6), QStringLiteral("234567"));
+    EXPECT_EQ(HexColor(0xFF, 8), QStringLiteral("000000FF"));
+    EXPECT_EQ(HexColor(0xFFFFFFFF, 8), QStringLiteral("FFFFFFFF"));
+    EXPECT_EQ(TrimNull(QStringLiteral("  a b ")), QStringLiteral("a b"));
+    EXPECT_EQ(TrimNull(QString::fromUtf16(u" ab\0cd  ", 8)), QStringLiteral("ab"));
+    EXPECT_EQ(ResolvePath(QStringLiteral("/p/cv.qds"), QStringLiteral(" media/a.jpg ")),
+              QStringLiteral("/p/media/a.jpg"));
+    EXPECT_EQ(ResolvePath(QStringLiteral("/p/cv.qds"), QStringLiteral("/abs/a.jpg")),
+              QStringLiteral("/abs/a.jpg"));
+    EXPECT_EQ(ResolvePath(QString(), QStringLiteral("rel.jpg")), QStringLiteral("rel.jpg"));
+}
+
+TEST(FileUtil, ReadFileBytesKeepsTheBufferOnFailure) {
+    Sandbox box;
+    ASSERT_TRUE(WriteAll(box.path("a.bin"), QByteArray("abc")));
+    ASSERT_TRUE(WriteAll(box.ctx.TempImagePath, QByteArray("temp!")));
+    QByteArray buffer("previous");
+    EXPECT_EQ(ReadFileBytes(box.path("missing"), buffer), 0);
+    EXPECT_EQ(buffer, QByteArray("previous"));
+    EXPECT_EQ(ReadFileBytes(box.dir.path(), buffer), 0); // a folder
+    EXPECT_EQ(buffer, QByteArray("previous"));
+    EXPECT_EQ(ReadFileBytes(QStringLiteral("  ") + box.path("a.bin") + QStringLiteral(" "), buffer),
+              3);
+    EXPECT_EQ(buffer, QByteArray("abc"));
+    EXPECT_EQ(ReadFileBytes(QStringLiteral("   "), buffer, box.ctx.TempImagePath), 5);
+    EXPECT_EQ(buffer, QByteArray("temp!"));
+}
+
+TEST(CodePage, FieldsAreCutAtCharacterBoundaries) {
+    // Windows-1252 by default: one byte per letter, € included.
+    FixedString<4> f;
+    f = QStringLiteral("€uro!");
+    EXPECT_EQ(QByteArray(f.data(), 4), QByteArray("\x80uro"));
+    f = QStringLiteral("ĳ"); // not in the code page
+    EXPECT_EQ(QByteArray(f.data(), 4), QByteArray("?   "));
+
+    // A multi-byte code page never splits a character at the end of a field.
+    auto sjis = CodePage::create(QStringLiteral("932"));
+    ASSERT_TRUE(sjis) << "iconv lacks CP932";
+    CodePage::overrideActive(std::move(sjis));
+    FixedString<5> jp;
+    jp = QStringLiteral("日本語");
+    EXPECT_EQ(QByteArray(jp.data(), 5).right(1), QByteArray(" ")); // 2+2 bytes, then a blank
+    EXPECT_EQ(jp.text(), QStringLiteral("日本"));
+    CodePage::overrideActive(nullptr);
+
+    auto cyrillic = CodePage::create(QStringLiteral("1251"));
+    ASSERT_TRUE(cyrillic);
+    EXPECT_EQ(cyrillic->encode(QStringLiteral("Жук"), 10), QByteArray("\xC6\xF3\xEA"));
+    EXPECT_EQ(cyrillic->decode("\xC6\xF3\xEA"), QStringLiteral("Жук"));
+    EXPECT_FALSE(CodePage::create(QStringLiteral("no-such-page")));
+}
