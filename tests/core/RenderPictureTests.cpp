@@ -3,6 +3,7 @@
 #include "render/ImageSave.h"
 #include "render/PictureCache.h"
 #include "render/PictureLoader.h"
+#include "render/ResImages.h"
 
 #include <QDir>
 #include <QFile>
@@ -154,6 +155,19 @@ TEST(RenderPicture, DecodesNoLargerThanDrawn) {
     EXPECT_EQ(ReadPictureSize(box.path("big.jpg")), QSize(4000, 3000));
 }
 
+TEST(RenderPicture, ReadsTheUsualFormats) {
+    test::Sandbox box;
+    const QRgb color = qRgb(40, 120, 200);
+    for (const char* format : {"JPEG", "PNG", "BMP", "ICO"}) {
+        const QString path = box.path(QStringLiteral("pic.%1").arg(QLatin1String(format)));
+        ASSERT_TRUE(Solid(48, 32, color).save(path, format)) << format;
+        EXPECT_EQ(ReadPictureSize(path), QSize(48, 32)) << format;
+        const QImage img = LoadPicture(path, QSize(24, 16));
+        EXPECT_EQ(img.size(), QSize(24, 16)) << format;
+        EXPECT_TRUE(Near(img.pixel(12, 8), color)) << format;
+    }
+}
+
 TEST(RenderPicture, HostileFilesAreUnreadable) {
     test::Sandbox box;
     QByteArray jpeg;
@@ -232,4 +246,20 @@ TEST(RenderPicture, CacheStaysWithinItsBudget) {
     }
     EXPECT_LE(cache.bytes(), 3 * 100 * 100 * 4);
     EXPECT_EQ(cache.count(), 3);
+}
+
+TEST(RenderPicture, BuiltInPicturesFillSlotsOneToEleven) {
+    ResImages res = ResImages::load();
+    for (int slot = 0; slot < ResImageCount; ++slot) {
+        const bool filled = slot >= 1 && slot <= ResHired;
+        EXPECT_EQ(!res.isEmpty(slot), filled) << slot;
+        EXPECT_EQ(res.size(slot), res.image(slot).size()) << slot;
+        EXPECT_EQ(res.size(slot).isEmpty(), !filled) << slot;
+    }
+    // The two empty slots stay empty whatever is put there.
+    res.setImage(0, QImage(4, 4, QImage::Format_RGB32));
+    res.setImage(12, QImage(4, 4, QImage::Format_RGB32));
+    EXPECT_TRUE(res.isEmpty(0));
+    EXPECT_TRUE(res.isEmpty(12));
+    EXPECT_TRUE(res.image(13).isNull());
 }
