@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <thread>
 
 using namespace zentor;
@@ -196,4 +197,26 @@ TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
     b.join();
     for (size_t i = 0; i < 8; ++i)
         EXPECT_EQ(parallel[i], sequential[i]) << "page " << i + 1;
+}
+
+TEST_F(RenderCompositor, ExtremeGeometryFromADamagedFileIsSurvived) {
+    const QString red = SolidFile(box, "red.png", qRgb(255, 0, 0));
+    const QRect boxes[] = {{INT_MAX, INT_MAX, INT_MAX, INT_MAX},
+                           {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
+                           {100, 100, -50, -50},
+                           {0, 0, 100000, 3},
+                           {-5, -5, 0, 0},
+                           {0, 590, 800, INT_MAX}};
+    int slot = 1;
+    for (const QRect& r : boxes) {
+        PlaceImage(*doc, slot, 1, red, r);
+        PlaceText(*doc, slot, 1, QStringLiteral("far away"), r, -1);
+        doc->Texts[size_t(slot)].FontSize = slot == 1 ? INT_MAX : -slot;
+        ++slot;
+    }
+    const QImage page = RenderPageImage(*doc, 1, res);
+    ASSERT_EQ(page.size(), QSize(800, 600));
+    EXPECT_EQ(page.pixel(400, 2), qRgb(255, 0, 0));   // the 100000 x 3 strip
+    EXPECT_EQ(page.pixel(400, 595), qRgb(255, 0, 0)); // the endless one at the bottom
+    EXPECT_EQ(page.pixel(400, 300), White);
 }

@@ -121,20 +121,6 @@ TEST(RenderPicture, ResizeToTempStretches) {
     }
 }
 
-TEST(RenderPicture, DistortsToTheRequestedSize) {
-    test::Sandbox box;
-    // Left half red, right half blue: stretched, the split stays in the middle.
-    QImage src = Solid(300, 100, qRgb(255, 0, 0));
-    for (int y = 0; y < 100; ++y)
-        for (int x = 150; x < 300; ++x)
-            src.setPixel(x, y, qRgb(0, 0, 255));
-    ASSERT_TRUE(src.save(box.path("split.png")));
-    ASSERT_TRUE(ResizeToTemp(box.path("split.png"), 128, 128, box.ctx));
-    const QImage out = QImage::fromData(test::ReadAll(box.ctx.TempImagePath));
-    EXPECT_TRUE(Near(out.pixel(10, 120), qRgb(255, 0, 0), 12));
-    EXPECT_TRUE(Near(out.pixel(117, 5), qRgb(0, 0, 255), 12));
-}
-
 TEST(RenderPicture, DecodesNoLargerThanDrawn) {
     test::Sandbox box;
     ASSERT_TRUE(Solid(4000, 3000, qRgb(90, 160, 40)).save(box.path("big.jpg"), "JPEG", 90));

@@ -199,18 +199,3 @@ TEST(RenderText, HintsChooseAntialiasing) {
     t.hint = 5;
     EXPECT_NE(Draw(t), unhinted);
 }
-
-TEST(RenderText, StyleBitsChangeTheGlyphs) {
-    Text t;
-    const QImage regular = Draw(t);
-    for (int style : {1, 2, 4, 8}) {
-        t.style = style;
-        EXPECT_NE(Draw(t), regular) << style;
-    }
-    // Underline adds ink below the baseline of a text without descenders.
-    t.text = QStringLiteral("HHH");
-    t.style = 0;
-    const int plainBottom = Ink(Draw(t)).bottom();
-    t.style = 4;
-    EXPECT_GT(Ink(Draw(t)).bottom(), plainBottom);
-}

@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace zentor {
 
 QImage PictureCache::picture(const QString& path, QSize drawSize) {
@@ -79,6 +81,12 @@ qint64 PictureCache::bytes() const {
 int PictureCache::count() const {
     std::lock_guard lock(mutex_);
     return int(entries_.size());
+}
+
+QRect BoxRect(int left, int top, int width, int height) {
+    static constexpr qint64 Far = 1 << 26; // far beyond any frame, far below overflow
+    const auto clamp = [](qint64 v) { return int(std::clamp(v, -Far, Far)); };
+    return QRect(clamp(left), clamp(top), clamp(width), clamp(height));
 }
 
 void DrawStretched(QPainter& p, const QImage& image, const QRect& rect) {
