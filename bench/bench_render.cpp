@@ -60,6 +60,8 @@ struct Fixture {
         NewDocument(*stress, ws.ctx);
         NewDocument(*texts, ws.ctx);
         WritePhoto(ws.path("tab.jpg"), QSize(1920, 1080), 9);
+        WritePhoto(ws.path("back.jpg"), QSize(1024, 768), 7);
+        stress->Header.BackPicture = ws.path("back.jpg");
         ImageElement& tabPic = stress->Tabs[1].Picture;
         tabPic.FileName = ws.path("tab.jpg");
         tabPic.PicAlign = 0;
@@ -119,6 +121,18 @@ void BM_WorkspaceRepaintDecoded(benchmark::State& state) {
     }
 }
 
+// The profile page is repainted whenever the pointer moves onto or off a ring icon.
+void BM_ProfilePageHoverRepaint(benchmark::State& state) {
+    Fixture& f = F();
+    PictureCache cache;
+    int hover = 0;
+    for (auto _ : state) {
+        QImage img = PaintWorkspace(*f.stress, 0, hover, f.res, f.ws.ctx, &cache);
+        benchmark::DoNotOptimize(img);
+        hover = (hover + 1) % 9;
+    }
+}
+
 void BM_Page128ShadowedTexts(benchmark::State& state) {
     Fixture& f = F();
     for (auto _ : state) {
@@ -130,6 +144,7 @@ void BM_Page128ShadowedTexts(benchmark::State& state) {
 BENCHMARK(BM_StressPageFromColdFiles)->Unit(benchmark::kMillisecond)->Repetitions(5)->UseRealTime();
 BENCHMARK(BM_StressPageToTempJpeg)->Unit(benchmark::kMillisecond)->Repetitions(3)->UseRealTime();
 BENCHMARK(BM_WorkspaceRepaintDecoded)->Unit(benchmark::kMillisecond)->Repetitions(5)->UseRealTime();
+BENCHMARK(BM_ProfilePageHoverRepaint)->Unit(benchmark::kMillisecond)->Repetitions(5)->UseRealTime();
 BENCHMARK(BM_Page128ShadowedTexts)->Unit(benchmark::kMillisecond)->Repetitions(5)->UseRealTime();
 
 } // namespace

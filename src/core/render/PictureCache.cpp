@@ -92,13 +92,18 @@ QRect BoxRect(int left, int top, int width, int height) {
 void DrawStretched(QPainter& p, const QImage& image, const QRect& rect) {
     if (image.isNull() || rect.width() <= 0 || rect.height() <= 0)
         return;
-    if (image.size() == rect.size()) {
-        p.drawImage(rect.topLeft(), image);
+    // Reducing is done by averaging (the painter only samples), enlarging by the painter.
+    const QImage fitted = rect.width() < image.width() || rect.height() < image.height()
+                              ? image.scaled(rect.size().boundedTo(image.size()),
+                                             Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                              : image;
+    if (fitted.size() == rect.size()) {
+        p.drawImage(rect.topLeft(), fitted);
         return;
     }
     p.save();
     p.setRenderHint(QPainter::SmoothPixmapTransform, true);
-    p.drawImage(rect, image);
+    p.drawImage(rect, fitted);
     p.restore();
 }
 

@@ -125,7 +125,11 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     const float x = float(left), y = float(top), w = float(width), h = float(height);
     const bool wrap = w > 0, clipY = h > 0;
 
-    QTextLayout layout(s, MakeTextFont(fontName, size, style, hint));
+    const QFont font = MakeTextFont(fontName, size, style, hint);
+    // A sixth of an em of room at each end of a line, as pages laid out on Windows have:
+    // the same text then breaks at the same words.
+    const double pad = font.pixelSize() / 6.0;
+    QTextLayout layout(s, font);
     QTextOption option;
     option.setWrapMode(wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
     layout.setTextOption(option);
@@ -135,14 +139,14 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLeadingIncluded(true);
         if (wrap)
-            line.setLineWidth(w);
+            line.setLineWidth(std::max(1.0, w - 2 * pad));
         const double room = wrap ? w : 0.0;
         const double used = line.naturalTextWidth();
-        double dx = 0;
+        double dx = pad;
         if (align == 1)
             dx = (room - used) / 2;
         else if (align == 2)
-            dx = room - used;
+            dx = room - pad - used;
         line.setPosition(QPointF(dx, lineY));
         lineY += line.height();
         // Top-aligned lines wholly below the box would be clipped away: stop there.
