@@ -94,15 +94,16 @@ QFont MakeTextFont(const QString& family, int points, int style, int hint) {
         break;
     case TextHint::AntiAliasGridFit:
         font.setStyleStrategy(QFont::PreferAntialias);
-        font.setHintingPreference(QFont::PreferVerticalHinting);
+        font.setHintingPreference(QFont::PreferFullHinting);
         break;
     case TextHint::AntiAlias:
         font.setStyleStrategy(QFont::PreferAntialias);
         font.setHintingPreference(QFont::PreferNoHinting);
         break;
     case TextHint::ClearTypeGridFit:
+        // ClearType fits the grid vertically and keeps fractional positions across.
         font.setStyleStrategy(QFont::PreferAntialias);
-        font.setHintingPreference(QFont::PreferFullHinting);
+        font.setHintingPreference(QFont::PreferVerticalHinting);
         break;
     case TextHint::SystemDefault:
     default:
