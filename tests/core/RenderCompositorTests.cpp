@@ -201,17 +201,24 @@ TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
 
 TEST_F(RenderCompositor, ExtremeGeometryFromADamagedFileIsSurvived) {
     const QString red = SolidFile(box, "red.png", qRgb(255, 0, 0));
-    const QRect boxes[] = {{INT_MAX, INT_MAX, INT_MAX, INT_MAX},
-                           {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
-                           {100, 100, -50, -50},
-                           {0, 0, 100000, 3},
-                           {-5, -5, 0, 0},
-                           {0, 590, 800, INT_MAX}};
+    // Left, top, width, height as a damaged file may hold them (no QRect: it would overflow).
+    const int boxes[][4] = {{INT_MAX, INT_MAX, INT_MAX, INT_MAX},
+                            {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
+                            {100, 100, -50, -50},
+                            {0, 0, 100000, 3},
+                            {-5, -5, 0, 0},
+                            {0, 590, 800, INT_MAX}};
     int slot = 1;
-    for (const QRect& r : boxes) {
-        PlaceImage(*doc, slot, 1, red, r);
-        PlaceText(*doc, slot, 1, QStringLiteral("far away"), r, -1);
-        doc->Texts[size_t(slot)].FontSize = slot == 1 ? INT_MAX : -slot;
+    for (const auto& b : boxes) {
+        PlaceImage(*doc, slot, 1, red, QRect());
+        PlaceText(*doc, slot, 1, QStringLiteral("far away"), QRect(), -1);
+        ImageElement& img = doc->Images[size_t(slot)];
+        TextElement& t = doc->Texts[size_t(slot)];
+        img.Left = t.Left = b[0];
+        img.Top = t.Top = b[1];
+        img.Width = t.Width = b[2];
+        img.Height = t.Height = b[3];
+        t.FontSize = slot == 1 ? INT_MAX : -slot;
         ++slot;
     }
     const QImage page = RenderPageImage(*doc, 1, res);
