@@ -1,0 +1,105 @@
+#include "cli/Cli.h"
+
+#include "edit/Prompter.h"
+#include "generate/RenderedPictures.h"
+#include "generate/ResumeGenerator.h"
+#include "io/FileUtil.h"
+#include "io/ScriptFile.h"
+#include "model/DefaultDocument.h"
+#include "render/PictureLoader.h"
+#include "render/ResImages.h"
+
+#include "PlayerStub.h"
+
+#include <QFile>
+
+#include <memory>
+
+namespace zentor::cli {
+namespace {
+
+// Without a window, the generator's messages go to stderr. Nothing is asked: the path
+// is used as given and replaced.
+class StderrPrompter : public Prompter {
+public:
+    Answer ask(const QString& title, const QString& text, Buttons, Icon, Answer) override {
+        if (title == QLatin1String("Generate QDV Error")) {
+            Fail(text);
+        } else {
+            Warn(text);
+            ++warnings;
+        }
+        return Answer::Ok;
+    }
+    QString chooseFile(bool, const QString&, const QString&, const QString&, const QString&,
+                       const QString&) override {
+        return QString();
+    }
+    uint32_t chooseColor() override { return 0; }
+    int warnings = 0;
+};
+
+int runGenerate(const Args& args, const ProcessContext& ctx) {
+    if (args.positional.size() != 2)
+        return Fail(
+            QStringLiteral("usage: zentor-cli generate PROJECT.qds OUT [--selfrun] [--strict]"),
+            ExitUsage);
+    const QString project = args.positional[0];
+    const QString out = args.positional[1];
+    const bool selfRun = args.has(QStringLiteral("--selfrun")) ||
+                         out.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive);
+    const bool strict = args.has(QStringLiteral("--strict"));
+
+    if (!IsRegularFile(project))
+        return Fail(QStringLiteral("cannot open %1: not a readable file").arg(project));
+    auto doc = std::make_unique<Document>();
+    NewDocument(*doc, ctx);
+    const LoadReport report = LoadScript(*doc, project);
+    if (!report.opened)
+        return Fail(QStringLiteral("cannot open %1").arg(project));
+    if (!report.complete)
+        Warn(QStringLiteral("%1 is damaged or cut short; generating what could be read")
+                 .arg(project));
+
+    StderrPrompter prompter;
+    // Resampled pictures never fail to read back (an unreadable source turns black), so
+    // say here which of them could not be read.
+    const struct {
+        QString field;
+        const char* what;
+    } pictures[] = {{doc->Profile.UserIcon.trimNull(), "user icon"},
+                    {doc->Header.BackPicture.trimNull(), "background picture"}};
+    for (const auto& p : pictures) {
+        if (p.field.isEmpty())
+            continue;
+        const QString path = ResolvePath(doc->ScriptPath, p.field);
+        if (ReadPictureSize(path).isEmpty()) {
+            Warn(QStringLiteral("cannot read the %1 %2; the package gets a black picture")
+                     .arg(QLatin1String(p.what), path));
+            ++prompter.warnings;
+        }
+    }
+
+    const ResImages res = ResImages::load();
+    RenderedPictures rendered(ctx, res);
+    ResumeGenerator gen(ctx, prompter, rendered);
+    gen.setParallel(true);
+    if (selfRun)
+        gen.setPlayer(PlayerStub());
+    if (gen.writePackage(*doc, out, selfRun) != ResumeGenerator::Outcome::Written)
+        return ExitError;
+    if (strict && prompter.warnings > 0) {
+        QFile::remove(out);
+        return Fail(QStringLiteral("%1 source(s) could not be read; nothing written (--strict)")
+                        .arg(prompter.warnings));
+    }
+    return ExitOk;
+}
+
+const Register reg({QStringLiteral("generate"),
+                    QStringLiteral("generate PROJECT.qds OUT [--selfrun] [--strict]"),
+                    {},
+                    runGenerate});
+
+} // namespace
+} // namespace zentor::cli

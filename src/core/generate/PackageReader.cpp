@@ -1,0 +1,158 @@
+#include "generate/PackageReader.h"
+
+#include "io/FileUtil.h"
+#include "io/ProjectJson.h"
+#include "io/RecordCodec.h"
+
+#include <QFile>
+#include <QJsonArray>
+
+#include <cstring>
+
+namespace zentor {
+
+bool PackageContents::usable(int entry) const {
+    if (entry < 0 || entry >= Package::EntryCount)
+        return false;
+    const PackEntry& e = Entries[size_t(entry)];
+    if ((e.Kind != PackPicture && e.Kind != PackMusic) || e.Position < 1 || e.Length < 0)
+        return false;
+    const qint64 start = qint64(e.Position) - 1;
+    return start >= Base + Package::BlobsOffset && start + e.Length <= Data.size();
+}
+
+QByteArray PackageContents::blob(int entry) const {
+    if (!usable(entry))
+        return QByteArray();
+    const PackEntry& e = Entries[size_t(entry)];
+    return Data.mid(qsizetype(e.Position) - 1, e.Length);
+}
+
+PackageContents ParsePackage(QByteArray data, PackageForm form) {
+    PackageContents p;
+    p.Data = std::move(data);
+    if (form == PackageForm::Detect) {
+        const bool program = p.Data.startsWith("\x7f"
+                                               "ELF") ||
+                             p.Data.startsWith("MZ");
+        form = program ? PackageForm::SelfRun : PackageForm::Qdv;
+    }
+    p.Form = form;
+    p.Base = form == PackageForm::SelfRun ? PlayerStubBytes : 0;
+    const qint64 size = p.Data.size();
+    if (size < p.Base + Package::BlobsOffset) {
+        p.Problems << QStringLiteral("the file has %1 bytes; a package needs at least %2")
+                          .arg(size)
+                          .arg(p.Base + Package::BlobsOffset);
+        return p;
+    }
+    const char* at = p.Data.constData() + p.Base;
+    p.Entries = DecodePackTable(QByteArrayView(at, Package::TableSize));
+    DecodeHeader(QByteArrayView(at + Package::HeaderOffset, RecordSize::Header), p.Header);
+    DecodeProfile(QByteArrayView(at + Package::ProfileOffset, RecordSize::Profile), p.Profile);
+    for (int i = 0; i < Package::TabNameCount; ++i)
+        std::memcpy(p.TabNames[size_t(i)].data(),
+                    at + Package::TabNamesOffset + i * Package::TabNameSize, Package::TabNameSize);
+    p.Complete = true;
+
+    for (int i = 0; i < Package::EntryCount; ++i) {
+        const PackEntry& e = p.Entries[size_t(i)];
+        const QString where = QStringLiteral("entry %1 (kind %2, position %3, length %4)")
+                                  .arg(i)
+                                  .arg(e.Kind)
+                                  .arg(e.Position)
+                                  .arg(e.Length);
+        if (e.Kind < PackEmpty || e.Kind > PackMusic)
+            p.Problems << where + QStringLiteral(": unknown kind");
+        else if (e.Kind == PackEmpty && (e.Position != 0 || e.Length != 0))
+            p.Problems << where + QStringLiteral(": an empty entry with a position or length");
+        else if (e.Kind != PackEmpty && !p.usable(i))
+            p.Problems << where +
+                              QStringLiteral(": does not lie inside the blobs of a %1-byte file")
+                                  .arg(size);
+    }
+    for (int i = 0; i < Package::PageCount; ++i)
+        if (p.Entries[size_t(Package::FirstPageEntry + i)].Kind == PackEmpty)
+            p.Problems << QStringLiteral("page %1 is missing").arg(i + 1);
+    return p;
+}
+
+bool ReadPackage(const QString& path, PackageForm form, PackageContents& out, QString& error) {
+    if (!IsRegularFile(path)) {
+        error = QStringLiteral("cannot open %1: not a readable file").arg(path);
+        return false;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = QStringLiteral("cannot open %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    QByteArray data = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        error = QStringLiteral("cannot read %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    out = ParsePackage(std::move(data), form);
+    return true;
+}
+
+QJsonObject PackageToJson(const PackageContents& p) {
+    QJsonObject root;
+    root.insert(QStringLiteral("Format"),
+                p.Form == PackageForm::SelfRun ? QStringLiteral("selfrun") : QStringLiteral("qdv"));
+    QJsonArray entries;
+    for (const PackEntry& e : p.Entries)
+        entries.append(QJsonObject{{QStringLiteral("Kind"), e.Kind},
+                                   {QStringLiteral("Position"), e.Position},
+                                   {QStringLiteral("Length"), e.Length}});
+    root.insert(QStringLiteral("Entries"), entries);
+    root.insert(QStringLiteral("Header"), HeaderToJson(p.Header));
+    root.insert(QStringLiteral("Profile"), ProfileToJson(p.Profile));
+    QJsonArray names;
+    for (const auto& name : p.TabNames)
+        names.append(name.isNul() ? QJsonValue() : QJsonValue(name.text()));
+    root.insert(QStringLiteral("TabNames"), names);
+    return root;
+}
+
+namespace {
+
+QString sniffExtension(const QByteArray& b) {
+    if (b.startsWith("\xff\xd8\xff"))
+        return QStringLiteral("jpg");
+    if (b.startsWith("\x89PNG\r\n\x1a\n"))
+        return QStringLiteral("png");
+    if (b.startsWith(QByteArrayView("\0\0\1\0", 4)))
+        return QStringLiteral("ico");
+    if (b.startsWith("BM"))
+        return QStringLiteral("bmp");
+    if (b.startsWith("GIF8"))
+        return QStringLiteral("gif");
+    if (b.startsWith("ID3") ||
+        (b.size() >= 2 && uchar(b[0]) == 0xff && (uchar(b[1]) & 0xe0) == 0xe0))
+        return QStringLiteral("mp3");
+    return QStringLiteral("bin");
+}
+
+} // namespace
+
+QString BlobFileName(int entry, const QByteArray& bytes) {
+    QString what;
+    if (entry == Package::UserIconEntry)
+        what = QStringLiteral("usericon");
+    else if (entry >= Package::FirstTabIconEntry && entry <= Package::LastTabIconEntry)
+        what = QStringLiteral("tabicon");
+    else if (entry == Package::BackPictureEntry)
+        what = QStringLiteral("background");
+    else if (entry == Package::MusicEntry)
+        what = QStringLiteral("music");
+    else if (entry >= Package::FirstPageEntry)
+        what = QStringLiteral("page%1").arg(entry - Package::FirstPageEntry + 1);
+    else
+        what = QStringLiteral("unused");
+    return QStringLiteral("%1-%2.%3")
+        .arg(entry, 2, 10, QLatin1Char('0'))
+        .arg(what, sniffExtension(bytes));
+}
+
+} // namespace zentor

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "generate/PackagePictures.h"
+#include "model/ProcessContext.h"
+#include "render/PictureCache.h"
+
+#include <atomic>
+
+namespace zentor {
+
+class ResImages;
+
+// The package's pictures from the renderer: pictures resampled with ResizeToTemp, pages
+// from the page compositor. Calls may overlap: each resample gets its own temporary
+// picture in the work folder, and pages are rendered from the document without changing it
+// (what the compositor writes back is applied as each page is written).
+class RenderedPictures : public PackagePictures {
+public:
+    RenderedPictures(const ProcessContext& ctx, const ResImages& res);
+
+    std::optional<QByteArray> resample(const QString& path, int width, int height) override;
+    std::optional<QByteArray> renderPage(const Document& doc, int page) override;
+    void pageWritten(Document& doc, int page) override;
+    bool reentrant() const override { return true; }
+
+private:
+    const ProcessContext& ctx_;
+    const ResImages& res_;
+    PictureCache cache_;
+    std::atomic<int> serial_{0};
+};
+
+} // namespace zentor

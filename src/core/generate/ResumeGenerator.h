@@ -1,0 +1,65 @@
+#pragma once
+
+#include "generate/PackEntry.h"
+#include "generate/PackagePictures.h"
+#include "model/Document.h"
+#include "model/ProcessContext.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <limits>
+
+namespace zentor {
+
+class Prompter;
+
+// Writes résumé packages: the data file for the player (.qdv) or the self-running program
+// (the player's bytes followed by the same package). One generator lives as long as the
+// program: like the original buffer and table, FileBytes and Entries outlive each call.
+class ResumeGenerator {
+public:
+    enum class Outcome { Written, Cancelled, Failed };
+
+    ResumeGenerator(const ProcessContext& ctx, Prompter& prompter, PackagePictures& pictures);
+
+    // The player's bytes that open a self-running program (the "RES" resource). They must
+    // be exactly ctx.PlayerStubSize long: the player looks for its package at that offset.
+    void setPlayer(const QByteArray& player) { player_ = player; }
+
+    // Lets resampling and page rendering run ahead on worker threads while the file is
+    // written in order; the file is byte for byte what the sequential procedure writes.
+    void setParallel(bool on) { parallel_ = on; }
+
+    // The last position a package may address (a signed 32-bit position). Tests lower it.
+    void setPositionLimit(qint64 limit) { positionLimit_ = limit; }
+
+    // The whole command: asks for the output path (adding the extension unless the name
+    // ends in it exactly), confirms overwriting, deletes the old file and writes the package.
+    Outcome GenerateResume(Document& doc, bool selfRun);
+
+    // Writes the package to `path` as given, replacing any file there. Reports failures
+    // through the prompter like GenerateResume.
+    Outcome writePackage(Document& doc, const QString& path, bool selfRun);
+
+    // The extension rule: `path` gets ".exe" or ".qdv" unless its last four characters are
+    // exactly that (case matters: "cv.EXE" becomes "cv.EXE.exe").
+    static QString withExtension(const QString& path, bool selfRun);
+
+    // The shared byte buffer: the last file read (or the player's bytes).
+    QByteArray FileBytes;
+    // The entry table of the last package written.
+    PackTable Entries{};
+
+private:
+    class Writer;
+    const ProcessContext& ctx_;
+    Prompter& prompter_;
+    PackagePictures& pictures_;
+    QByteArray player_;
+    bool parallel_ = false;
+    qint64 positionLimit_ = std::numeric_limits<int32_t>::max();
+};
+
+} // namespace zentor

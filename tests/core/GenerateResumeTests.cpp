@@ -1,0 +1,103 @@
+#include "PackageFixtures.h"
+#include "ScriptedPrompter.h"
+#include "TestSupport.h"
+
+#include "generate/ResumeGenerator.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+namespace zentor::test {
+namespace {
+
+using Answer = Prompter::Answer;
+using Outcome = ResumeGenerator::Outcome;
+
+const QString QdvTitle = QStringLiteral("Generate QDV File");
+const QString QdvFilter = QStringLiteral("*.qdv|*.qdv");
+const QString ExeTitle = QStringLiteral("Generate Selfrun File");
+const QString ExeFilter = QStringLiteral("*.exe|*.exe");
+const QString Overwrite = QStringLiteral("This file already exists. Do you want to overwrite it?");
+
+struct GenerateResumeTest : ::testing::Test {
+    Sandbox box;
+    std::unique_ptr<Document> doc = box.newDocument();
+    FakePictures pictures;
+    void SetUp() override { doc->Header.BackPicture.clearToNul(); }
+};
+
+TEST_F(GenerateResumeTest, ExtensionIsAddedUnlessTheNameEndsInItExactly) {
+    const struct {
+        bool selfRun;
+        const char* chosen;
+        const char* written;
+    } cases[] = {
+        {false, "cv", "cv.qdv"},         {false, "cv.qdv", "cv.qdv"},
+        {false, "cv.QDV", "cv.QDV.qdv"}, {true, "cv", "cv.exe"},
+        {true, "cv.exe", "cv.exe"},      {true, "cv.EXE", "cv.EXE.exe"},
+        {true, "cv.qdv", "cv.qdv.exe"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.chosen);
+        QDir(box.dir.path()).removeRecursively();
+        QDir().mkpath(box.dir.path());
+        ScriptedPrompter prompter;
+        prompter.expectFile(true, c.selfRun ? ExeTitle : QdvTitle,
+                            c.selfRun ? ExeFilter : QdvFilter, box.path(QLatin1String(c.chosen)));
+        ResumeGenerator gen(box.ctx, prompter, pictures);
+        gen.setPlayer(FakePlayer());
+        EXPECT_EQ(gen.GenerateResume(*doc, c.selfRun), Outcome::Written);
+        EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+        EXPECT_TRUE(QFile::exists(box.path(QLatin1String(c.written))));
+        EXPECT_EQ(QDir(box.dir.path()).entryList(QDir::Files).size(), 1);
+    }
+}
+
+TEST_F(GenerateResumeTest, CancelWritesNothing) {
+    ScriptedPrompter prompter;
+    prompter.expectFile(true, QdvTitle, QdvFilter, QString());
+    ResumeGenerator gen(box.ctx, prompter, pictures);
+    EXPECT_EQ(gen.GenerateResume(*doc, false), Outcome::Cancelled);
+    EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+    EXPECT_EQ(pictures.calls, 0);
+}
+
+TEST_F(GenerateResumeTest, AnExistingFileIsReplacedOnlyAfterYes) {
+    const QString path = box.path(QStringLiteral("cv.qdv"));
+    const QByteArray old("an older file");
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        ASSERT_TRUE(WriteAll(path, old));
+        ScriptedPrompter prompter;
+        prompter.expectFile(true, QdvTitle, QdvFilter, box.path(QStringLiteral("cv")))
+            .expectQuestion(QStringLiteral("Generate Resume"), Overwrite, answer);
+        ResumeGenerator gen(box.ctx, prompter, pictures);
+        EXPECT_EQ(gen.GenerateResume(*doc, false),
+                  answer == Answer::Yes ? Outcome::Written : Outcome::Cancelled);
+        EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+        EXPECT_EQ(ReadAll(path) == old, answer == Answer::No);
+    }
+}
+
+TEST_F(GenerateResumeTest, GeneratingTwiceGivesTheSameFileAndLeavesNoTemporaryPicture) {
+    ASSERT_TRUE(WriteAll(box.path(QStringLiteral("face.png")), PictureBytes(50, 50, 0xff102030)));
+    doc->Profile.UserIcon = box.path(QStringLiteral("face.png"));
+    const QString path = box.path(QStringLiteral("cv.exe"));
+    ScriptedPrompter prompter;
+    prompter.expectFile(true, ExeTitle, ExeFilter, path)
+        .expectFile(true, ExeTitle, ExeFilter, path)
+        .expectQuestion(QStringLiteral("Generate Resume"), Overwrite, Answer::Yes);
+    ResumeGenerator gen(box.ctx, prompter, pictures);
+    gen.setPlayer(FakePlayer());
+    ASSERT_EQ(gen.GenerateResume(*doc, true), Outcome::Written);
+    EXPECT_FALSE(QFile::exists(box.ctx.TempImagePath));
+    const QByteArray first = ReadAll(path);
+    ASSERT_EQ(gen.GenerateResume(*doc, true), Outcome::Written);
+    EXPECT_FALSE(QFile::exists(box.ctx.TempImagePath));
+    EXPECT_EQ(ReadAll(path), first);
+    EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+}
+
+} // namespace
+} // namespace zentor::test

@@ -1,0 +1,169 @@
+#include "PackageFixtures.h"
+#include "ScriptedPrompter.h"
+#include "TestSupport.h"
+
+#include "generate/PackageReader.h"
+#include "generate/ResumeGenerator.h"
+
+#include "PlayerStub.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QProcess>
+
+namespace zentor::test {
+namespace {
+
+int RunProgram(const QString& program, const QStringList& args, QByteArray* out = nullptr,
+               QByteArray* err = nullptr) {
+    QProcess p;
+    // The player must manage without a display for --info and --export.
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("DISPLAY"));
+    env.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    p.setProcessEnvironment(env);
+    p.start(program, args);
+    if (!p.waitForFinished(120000)) {
+        p.kill();
+        p.waitForFinished();
+        return -1;
+    }
+    if (out)
+        *out = p.readAllStandardOutput();
+    if (err)
+        *err = p.readAllStandardError();
+    return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+}
+
+class PackagePlayerTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(WriteAll(box.path(QStringLiteral("song.mp3")), music));
+        doc->Header.BackMusic = box.path(QStringLiteral("song.mp3"));
+        doc->Header.BackPicture.clearToNul();
+        doc->Profile.FirstName = QStringLiteral("Grace");
+        gen.setPlayer(PlayerStub());
+    }
+    QString generate(const QString& name, bool selfRun) {
+        const QString out = box.path(name);
+        EXPECT_EQ(gen.writePackage(*doc, out, selfRun), ResumeGenerator::Outcome::Written);
+        return out;
+    }
+
+    Sandbox box;
+    std::unique_ptr<Document> doc = box.newDocument();
+    FakePictures pictures;
+    ScriptedPrompter prompter;
+    ResumeGenerator gen{box.ctx, prompter, pictures};
+    QByteArray music = QByteArray("ID3\3\0") + QByteArray(1234, 'a');
+};
+
+TEST_F(PackagePlayerTest, EmbeddedStubIsThePlayerPaddedToItsFixedSize) {
+    const QByteArray stub = PlayerStub();
+    const QByteArray player = ReadAll(QStringLiteral(ZENTOR_PLAYER_PATH));
+    ASSERT_EQ(stub.size(), 524288);
+    ASSERT_GT(player.size(), 0);
+    EXPECT_EQ(stub.left(player.size()), player);
+    EXPECT_TRUE(stub.startsWith("\x7f"
+                                "ELF"));
+}
+
+TEST_F(PackagePlayerTest, SelfRunningResumeReadsItself) {
+    const QString exe = generate(QStringLiteral("cv.exe"), true);
+    QByteArray out, err;
+    ASSERT_EQ(RunProgram(exe, {QStringLiteral("--info")}, &out, &err), 0) << err.toStdString();
+    const QJsonObject expected = PackageToJson(ParsePackage(ReadAll(exe), PackageForm::SelfRun));
+    EXPECT_EQ(QJsonDocument::fromJson(out).object(), expected);
+    EXPECT_EQ(expected.value(QStringLiteral("Format")).toString(), QStringLiteral("selfrun"));
+
+    const QString dir = box.path(QStringLiteral("shown"));
+    ASSERT_EQ(RunProgram(exe, {QStringLiteral("--export"), dir}, nullptr, &err), 0)
+        << err.toStdString();
+    QStringList expectedFiles{QStringLiteral("10-music.mp3")};
+    for (int page = 1; page <= 8; ++page)
+        expectedFiles << QStringLiteral("%1-page%2.jpg").arg(10 + page).arg(page);
+    EXPECT_EQ(QDir(dir).entryList(QDir::Files, QDir::Name), expectedFiles);
+    EXPECT_EQ(ReadAll(dir + QStringLiteral("/10-music.mp3")), music);
+    EXPECT_EQ(QImage(dir + QStringLiteral("/18-page8.jpg")).size(), QSize(800, 600));
+}
+
+TEST_F(PackagePlayerTest, PlayerReadsAPackageNamedOnItsCommandLine) {
+    const struct {
+        const char* name;
+        bool selfRun;
+        const char* format;
+    } cases[] = {{"cv.qdv", false, "qdv"}, {"other.exe", true, "selfrun"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const QString path = generate(QLatin1String(c.name), c.selfRun);
+        QByteArray out, err;
+        ASSERT_EQ(RunProgram(QStringLiteral(ZENTOR_PLAYER_PATH), {path, QStringLiteral("--info")},
+                             &out, &err),
+                  0)
+            << err.toStdString();
+        const QJsonObject json = QJsonDocument::fromJson(out).object();
+        EXPECT_EQ(json.value(QStringLiteral("Format")).toString(), QLatin1String(c.format));
+        EXPECT_EQ(
+            json.value(QStringLiteral("Profile")).toObject().value(QStringLiteral("FirstName")),
+            QStringLiteral("Grace"));
+    }
+}
+
+TEST_F(PackagePlayerTest, PlayerWithoutAPackageSaysSo) {
+    QByteArray err;
+    EXPECT_EQ(
+        RunProgram(QStringLiteral(ZENTOR_PLAYER_PATH), {QStringLiteral("--info")}, nullptr, &err),
+        1);
+    EXPECT_TRUE(err.contains("no résumé inside this program")) << err.toStdString();
+    const QString junk = box.path(QStringLiteral("junk.qdv"));
+    ASSERT_TRUE(WriteAll(junk, QByteArray(100, 'j')));
+    EXPECT_EQ(RunProgram(QStringLiteral(ZENTOR_PLAYER_PATH), {junk, QStringLiteral("--info")},
+                         nullptr, &err),
+              1);
+    EXPECT_TRUE(err.contains("is not a package")) << err.toStdString();
+}
+
+TEST_F(PackagePlayerTest, CliInfoAndUnpackOfPackages) {
+    const QString qdv = generate(QStringLiteral("cv.qdv"), false);
+    const QString exe = generate(QStringLiteral("cv.exe"), true);
+    QByteArray out, err;
+    ASSERT_EQ(RunCli({QStringLiteral("info"), exe}, &out, &err), 0) << err.toStdString();
+    EXPECT_EQ(QJsonDocument::fromJson(out).object(),
+              PackageToJson(ParsePackage(ReadAll(exe), PackageForm::SelfRun)));
+    // --as overrides the extension.
+    const QString renamed = box.path(QStringLiteral("cv.bin"));
+    ASSERT_TRUE(QFile::copy(qdv, renamed));
+    ASSERT_EQ(
+        RunCli({QStringLiteral("info"), renamed, QStringLiteral("--as"), QStringLiteral("qdv")},
+               &out, &err),
+        0)
+        << err.toStdString();
+    EXPECT_EQ(QJsonDocument::fromJson(out).object().value(QStringLiteral("Format")),
+              QStringLiteral("qdv"));
+
+    const QString dir = box.path(QStringLiteral("blobs"));
+    ASSERT_EQ(RunCli({QStringLiteral("unpack"), exe, dir}, &out, &err), 0) << err.toStdString();
+    const PackageContents p = ParsePackage(ReadAll(exe), PackageForm::SelfRun);
+    QStringList expected;
+    for (int entry = 0; entry < 19; ++entry)
+        if (p.usable(entry)) {
+            expected << BlobFileName(entry, p.blob(entry));
+            EXPECT_EQ(ReadAll(dir + u'/' + expected.last()), p.blob(entry));
+        }
+    EXPECT_EQ(expected.size(), 9);
+    EXPECT_EQ(QDir(dir).entryList(QDir::Files, QDir::Name), expected);
+
+    // A damaged package: the JSON still comes out, the damage is an error.
+    QByteArray damaged = ReadAll(qdv);
+    damaged.chop(1);
+    ASSERT_TRUE(WriteAll(qdv, damaged));
+    EXPECT_EQ(RunCli({QStringLiteral("info"), qdv}, &out, &err), 1);
+    EXPECT_TRUE(err.contains("entry 18")) << err.toStdString();
+    EXPECT_TRUE(QJsonDocument::fromJson(out).isObject());
+}
+
+} // namespace
+} // namespace zentor::test

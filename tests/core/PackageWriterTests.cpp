@@ -1,0 +1,258 @@
+#include "PackageFixtures.h"
+#include "ScriptedPrompter.h"
+#include "TestSupport.h"
+
+#include "generate/ResumeGenerator.h"
+#include "io/FileUtil.h"
+#include "io/ScriptFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include <functional>
+
+namespace zentor::test {
+namespace {
+
+constexpr int Player = 524288;
+
+// A document with every kind of blob: user icon, icons of tabs 1, 2, 5 and 8 (tab 1's is
+// never carried), a background picture and music, all as paths relative to the project.
+class PackageWriterTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(QDir(box.dir.path()).mkpath(QStringLiteral("media")));
+        media(QStringLiteral("face.png"), PictureBytes(300, 100, 0xff336699));
+        media(QStringLiteral("one.png"), PictureBytes(16, 16, 0xff000000));
+        media(QStringLiteral("two.png"), icon2);
+        media(QStringLiteral("five.ico"), icon5);
+        media(QStringLiteral("eight.png"), icon8);
+        media(QStringLiteral("back.jpg"), PictureBytes(40, 30, 0xffcc0000, "JPEG"));
+        media(QStringLiteral("song.mp3"), music);
+        doc->Profile.UserIcon = QStringLiteral("media/face.png");
+        doc->Tabs[1].Icon = QStringLiteral("media/one.png");
+        doc->Tabs[2].Icon = QStringLiteral("media/two.png");
+        doc->Tabs[5].Icon = QStringLiteral("media/five.ico");
+        doc->Tabs[8].Icon = QStringLiteral("media/eight.png");
+        doc->Header.BackPicture = QStringLiteral("media/back.jpg");
+        doc->Header.BackMusic = QStringLiteral("media/song.mp3");
+        doc->Profile.FirstName = QStringLiteral("Ada");
+        ASSERT_TRUE(SaveScript(*doc, box.path(QStringLiteral("cv.qds"))));
+        project = ReadAll(box.path(QStringLiteral("cv.qds")));
+        gen.setPlayer(FakePlayer());
+    }
+    void media(const QString& name, const QByteArray& bytes) {
+        ASSERT_TRUE(WriteAll(box.path(QStringLiteral("media/") + name), bytes));
+    }
+    QByteArray generate(bool selfRun, const QString& name = QStringLiteral("out.pkg")) {
+        const QString out = box.path(name);
+        EXPECT_EQ(gen.writePackage(*doc, out, selfRun), ResumeGenerator::Outcome::Written);
+        return ReadAll(out);
+    }
+    struct Entry {
+        int32_t kind, position, length;
+    };
+    static Entry entryAt(const QByteArray& file, qsizetype table, int i) {
+        return {Int32At(file, table + 12 * i), Int32At(file, table + 12 * i + 4),
+                Int32At(file, table + 12 * i + 8)};
+    }
+    static QByteArray blob(const QByteArray& file, const Entry& e) {
+        return file.mid(e.position - 1, e.length);
+    }
+
+    Sandbox box;
+    std::unique_ptr<Document> doc = box.newDocument();
+    FakePictures pictures;
+    ScriptedPrompter prompter;
+    ResumeGenerator gen{box.ctx, prompter, pictures};
+    QByteArray icon2 = PictureBytes(32, 32, 0xff00ff00);
+    QByteArray icon5 = QByteArray("\0\0\1\0\1\0", 6) + QByteArray(90, 'i');
+    QByteArray icon8 = PictureBytes(24, 24, 0xff0000ff);
+    QByteArray music = QByteArray("ID3\3\0") + QByteArray(5000, 'm');
+    QByteArray project;
+};
+
+TEST_F(PackageWriterTest, DataFileHoldsTheProjectRecordsAndContiguousBlobs) {
+    const QByteArray qdv = generate(false);
+    EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+
+    // The header and profile exactly as the project file has them; then tabs 1..7's names.
+    EXPECT_EQ(qdv.mid(228, 564), project.mid(0, 564));
+    EXPECT_EQ(qdv.mid(792, 800), project.mid(564, 800));
+    for (int tab = 1; tab <= 7; ++tab)
+        EXPECT_EQ(qdv.mid(1592 + 32 * (tab - 1), 32),
+                  doc->Tabs[tab].Name.text().toLatin1().leftJustified(32, ' '))
+            << "tab " << tab;
+
+    // Present: 0, 2, 5, 8, 9, 10, 11..18, back to back from position 1817.
+    const QList<int> present{0, 2, 5, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18};
+    qint64 next = 1817;
+    for (int i = 0; i < 19; ++i) {
+        const Entry e = entryAt(qdv, 0, i);
+        if (!present.contains(i)) {
+            EXPECT_TRUE(e.kind == 0 && e.position == 0 && e.length == 0) << "entry " << i;
+            continue;
+        }
+        EXPECT_EQ(e.kind, i == 10 ? 2 : 1) << "entry " << i;
+        EXPECT_EQ(e.position, next) << "entry " << i;
+        EXPECT_GT(e.length, 0) << "entry " << i;
+        next += e.length;
+    }
+    EXPECT_EQ(next - 1, qdv.size());
+
+    // Icons and music as they are on disk.
+    EXPECT_EQ(blob(qdv, entryAt(qdv, 0, 2)), icon2);
+    EXPECT_EQ(blob(qdv, entryAt(qdv, 0, 5)), icon5);
+    EXPECT_EQ(blob(qdv, entryAt(qdv, 0, 8)), icon8);
+    EXPECT_EQ(blob(qdv, entryAt(qdv, 0, 10)), music);
+    // Resampled pictures and pages at their sizes.
+    EXPECT_EQ(QImage::fromData(blob(qdv, entryAt(qdv, 0, 0))).size(), QSize(128, 128));
+    EXPECT_EQ(QImage::fromData(blob(qdv, entryAt(qdv, 0, 9))).size(), QSize(1024, 768));
+    for (int page = 1; page <= 8; ++page)
+        EXPECT_EQ(QImage::fromData(blob(qdv, entryAt(qdv, 0, 10 + page))).size(), QSize(800, 600));
+    EXPECT_FALSE(QFile::exists(box.ctx.TempImagePath));
+}
+
+TEST_F(PackageWriterTest, SelfRunningFormIsThePlayerFollowedByTheShiftedPackage) {
+    const QByteArray qdv = generate(false, QStringLiteral("cv.qdv"));
+    const QByteArray exe = generate(true, QStringLiteral("cv.exe"));
+    ASSERT_EQ(exe.size(), qdv.size() + Player);
+    EXPECT_EQ(exe.left(Player), FakePlayer());
+    EXPECT_EQ(entryAt(exe, Player, 0).position, 526105);
+    for (int i = 0; i < 19; ++i) {
+        const Entry d = entryAt(qdv, 0, i), e = entryAt(exe, Player, i);
+        EXPECT_EQ(e.kind, d.kind) << "entry " << i;
+        EXPECT_EQ(e.length, d.length) << "entry " << i;
+        EXPECT_EQ(e.position, d.position ? d.position + Player : 0) << "entry " << i;
+    }
+    EXPECT_EQ(exe.mid(Player + 228), qdv.mid(228));
+    EXPECT_TRUE(QFile::permissions(box.path(QStringLiteral("cv.exe"))) & QFileDevice::ExeOwner);
+}
+
+TEST_F(PackageWriterTest, CountsAreWrittenAsTheyStandInMemory) {
+    doc->Header.TextCount = 77;
+    doc->Header.ImageCount = 5;
+    const QByteArray qdv = generate(false);
+    EXPECT_EQ(Int32At(qdv, 228 + 12), 77);
+    EXPECT_EQ(Int32At(qdv, 228 + 16), 5);
+}
+
+// A source that cannot be read keeps its Kind and Position, gets Length 0, and the shared
+// buffer's old bytes are appended where it would have been.
+TEST_F(PackageWriterTest, UnreadableSourceAppendsThePreviousBuffer) {
+    struct Case {
+        const char* name;
+        bool selfRun;
+        int entry;
+        std::function<void(Document&)> breakIt;
+        int previousEntry; // whose bytes are appended again; -1 the player, -2 nothing
+    };
+    const QList<Case> cases{
+        {"music after the background", false, 10,
+         [](Document& d) { d.Header.BackMusic = QStringLiteral("media/none.mp3"); }, 9},
+        {"tab icon after another icon", false, 5,
+         [](Document& d) { d.Tabs[5].Icon = QStringLiteral("media/none.ico"); }, 2},
+        {"first icon of a data file", false, 0,
+         [](Document& d) { d.Profile.UserIcon = QStringLiteral("media/none.png"); }, -2},
+        {"first icon of a self-running file", true, 0,
+         [](Document& d) { d.Profile.UserIcon = QStringLiteral("media/none.png"); }, -1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        ScriptedPrompter local;
+        FakePictures fake;
+        ResumeGenerator fresh(box.ctx, local, fake);
+        fresh.setPlayer(FakePlayer());
+        auto broken = std::make_unique<Document>(*doc);
+        c.breakIt(*broken);
+        const bool resampled = c.entry == 0 || c.entry == 9;
+        const QString missing =
+            resampled ? box.ctx.TempImagePath
+                      : ResolvePath(broken->ScriptPath,
+                                    c.entry == 10 ? broken->Header.BackMusic.trimNull()
+                                                  : broken->Tabs[c.entry].Icon.trimNull());
+        local.expectWarning(QStringLiteral("Error"),
+                            QStringLiteral("Can't find the file: ") + missing);
+        const QString out = box.path(QStringLiteral("broken.pkg"));
+        ASSERT_EQ(fresh.writePackage(*broken, out, c.selfRun), ResumeGenerator::Outcome::Written);
+        EXPECT_TRUE(local.failures().isEmpty()) << local.failures().join('\n').toStdString();
+
+        const QByteArray file = ReadAll(out);
+        const qsizetype table = c.selfRun ? Player : 0;
+        const Entry e = entryAt(file, table, c.entry);
+        EXPECT_EQ(e.kind, c.entry == 10 ? 2 : 1);
+        EXPECT_EQ(e.length, 0);
+        const QByteArray previous = c.previousEntry == -1 ? FakePlayer()
+                                    : c.previousEntry == -2
+                                        ? QByteArray()
+                                        : blob(file, entryAt(file, table, c.previousEntry));
+        EXPECT_EQ(file.mid(e.position - 1, previous.size()), previous);
+        // The next present blob starts after the repeated bytes.
+        int following = c.entry + 1;
+        while (entryAt(file, table, following).kind == 0)
+            ++following;
+        EXPECT_EQ(entryAt(file, table, following).position, e.position + previous.size());
+    }
+}
+
+TEST_F(PackageWriterTest, PathsAreTidiedOnlyAfterTheRecordsWereWritten) {
+    doc->Profile.UserIcon = QStringLiteral("  media/face.png");
+    doc->Header.BackMusic = QStringLiteral(" media/song.mp3");
+    const QByteArray qdv = generate(false);
+    EXPECT_TRUE(qdv.mid(792, 16).startsWith("  media/face.png"));
+    EXPECT_TRUE(qdv.mid(228 + 20, 16).startsWith(" media/song.mp3"));
+    EXPECT_TRUE(QByteArray(doc->Profile.UserIcon.data(), 16).startsWith("media/face.png  "));
+    EXPECT_TRUE(QByteArray(doc->Header.BackMusic.data(), 16).startsWith("media/song.mp3 "));
+    EXPECT_EQ(blob(qdv, entryAt(qdv, 0, 10)), music);
+}
+
+TEST_F(PackageWriterTest, PositionsPastTheLimitAreRefused) {
+    const QByteArray full = generate(false, QStringLiteral("full.qdv"));
+    const qint64 lastByte = full.size(); // 1-based position of the last byte
+    for (const qint64 limit : {lastByte, lastByte - 1}) {
+        SCOPED_TRACE(limit);
+        ScriptedPrompter local;
+        ResumeGenerator limited(box.ctx, local, pictures);
+        limited.setPositionLimit(limit);
+        const QString out = box.path(QStringLiteral("limited.qdv"));
+        const bool fits = limit == lastByte;
+        if (!fits)
+            local.expectWarning(QStringLiteral("Generate QDV Error"),
+                                QStringLiteral("Can't create file : ") + out);
+        EXPECT_EQ(limited.writePackage(*doc, out, false),
+                  fits ? ResumeGenerator::Outcome::Written : ResumeGenerator::Outcome::Failed);
+        EXPECT_TRUE(local.failures().isEmpty()) << local.failures().join('\n').toStdString();
+        if (fits) {
+            EXPECT_EQ(ReadAll(out), full);
+        }
+    }
+}
+
+TEST_F(PackageWriterTest, FailuresToWriteShowTheWriteError) {
+    struct Case {
+        const char* name;
+        QString path;
+        bool selfRun;
+        QByteArray player;
+    };
+    const QList<Case> cases{
+        {"folder missing", box.path(QStringLiteral("no/such/folder/cv.qdv")), false, FakePlayer()},
+        {"player of the wrong size", box.path(QStringLiteral("cv.exe")), true,
+         FakePlayer().left(1000)},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        ScriptedPrompter local;
+        ResumeGenerator failing(box.ctx, local, pictures);
+        failing.setPlayer(c.player);
+        local.expectWarning(QStringLiteral("Generate QDV Error"),
+                            QStringLiteral("Can't create file : ") + c.path);
+        EXPECT_EQ(failing.writePackage(*doc, c.path, c.selfRun), ResumeGenerator::Outcome::Failed);
+        EXPECT_TRUE(local.failures().isEmpty()) << local.failures().join('\n').toStdString();
+    }
+}
+
+} // namespace
+} // namespace zentor::test
