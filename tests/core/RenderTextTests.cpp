@@ -202,3 +202,16 @@ TEST(RenderText, HintsChooseAntialiasing) {
             EXPECT_NE(looks.back(), looks[size_t(other - 1)]) << hint << " vs " << other;
     }
 }
+
+TEST(RenderText, UnderlineSpansTheText) {
+    Text t;
+    t.text = QStringLiteral("HHH HHH");
+    t.style = 2; // italic, centred: where decorations went astray before
+    t.align = 1;
+    const QRect plain = Ink(Draw(t));
+    t.style = 2 | 4;
+    const QRect underlined = Ink(Draw(t));
+    EXPECT_GT(underlined.bottom(), plain.bottom());
+    EXPECT_NEAR(underlined.left(), plain.left(), 3);
+    EXPECT_NEAR(underlined.right(), plain.right(), 3);
+}

@@ -4,6 +4,7 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QGlyphRun>
 #include <QHash>
 #include <QPainter>
 #include <QTextLayout>
@@ -172,12 +173,24 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     inked.translate(0, dy);
     const bool needClip = (wrap && (inked.left() < 0 || inked.right() > w)) ||
                           (clipY && (inked.top() < 0 || inked.bottom() > h));
+    // Plain text: the glyphs are taken from the layout once and drawn by every pass. Glyph
+    // runs misplace underline and strikeout, so decorated text is drawn by the layout.
+    const bool decorated = style & 12;
+    const QList<QGlyphRun> runs = decorated ? QList<QGlyphRun>() : layout.glyphRuns();
     g.save();
     g.setRenderHint(QPainter::TextAntialiasing, !noAA);
+    auto draw = [&](QPointF at) {
+        if (decorated) {
+            layout.draw(&g, at);
+            return;
+        }
+        for (const QGlyphRun& run : runs)
+            g.drawGlyphRun(at, run);
+    };
     auto pass = [&](uint32_t argb, double ox, double oy) {
         g.setPen(QColor::fromRgba(argb));
         if (!needClip) {
-            layout.draw(&g, QPointF(x + ox, y + oy + dy));
+            draw(QPointF(x + ox, y + oy + dy));
             return;
         }
         QRectF clip(x + ox, y + oy, wrap ? w : 2e7, clipY ? h : 2e7);
@@ -187,7 +200,7 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
             clip.moveTop(-1e7);
         g.save();
         g.setClipRect(clip, Qt::IntersectClip);
-        layout.draw(&g, QPointF(x + ox, y + oy + dy));
+        draw(QPointF(x + ox, y + oy + dy));
         g.restore();
     };
     if (shadow != 0) {
