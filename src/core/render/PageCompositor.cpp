@@ -44,7 +44,7 @@ QImage RenderPageImage(const Document& doc, int page, const ResImages& res, Pict
 
     const ImageElement& pic = doc.Tabs[size_t(tab)].Picture;
     DrawPictureFile(p, ResolvePath(doc.ScriptPath, pic.FileName.trimmed()),
-                    QRect(pic.Left, pic.Top, pic.Width, pic.Height), cache);
+                    BoxRect(pic.Left, pic.Top, pic.Width, pic.Height), cache);
     DrawPageObjects(p, doc, tab, cache);
 
     if (page == SlideShowTab)
