@@ -178,4 +178,6 @@ BENCHMARK(BM_ResampleBackground)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
-int main(int argc, char** argv) { return zentor::bench::RunBenchmarks(argc, argv); }
+int main(int argc, char** argv) {
+    return zentor::bench::RunBenchmarks(argc, argv);
+}

@@ -61,4 +61,6 @@ BENCHMARK(BM_LoadFullDocument)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
-int main(int argc, char** argv) { return zentor::bench::RunBenchmarks(argc, argv); }
+int main(int argc, char** argv) {
+    return zentor::bench::RunBenchmarks(argc, argv);
+}

@@ -25,8 +25,8 @@ bool WriteAll(const QString& path, const QByteArray& bytes) {
     return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size();
 }
 
-int RunProcess(const QString& program, const QStringList& args, QByteArray* out,
-               QByteArray* err, const QStringList& unset) {
+int RunProcess(const QString& program, const QStringList& args, QByteArray* out, QByteArray* err,
+               const QStringList& unset) {
     QProcess p;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     for (const QString& name : unset)

@@ -94,13 +94,12 @@ QImage WhiteSquare() {
 
 QImage PaintWorkspace(Document& doc, int tab, int hoverIcon, const ResImages& res,
                       const ProcessContext& ctx, PictureCache* cache, IconRectTable* iconRects) {
-    const QSize frame = FrameSize(doc);
-    if (frame.isEmpty() || tab < 0 || tab > MaxTab)
+    if (tab < 0 || tab > MaxTab)
         return QImage();
-    QImage canvas(frame, QImage::Format_ARGB32_Premultiplied);
+    QImage canvas = WhiteFrameCanvas(doc);
     if (canvas.isNull())
         return QImage();
-    canvas.fill(0xFFFFFFFFu);
+    const QSize frame = canvas.size();
     QPainter p(&canvas);
     PictureSurfaces s;
     s.workspace = &p;
