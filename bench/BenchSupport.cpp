@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 
+#include <benchmark/benchmark.h>
+
 namespace zentor::bench {
 
 Workspace::Workspace() : ctx(ProcessContext::create(QStringLiteral("."), dir.path())) {}
@@ -11,6 +13,14 @@ void InitGui(int& argc, char** argv) {
     PrepareRuntimeDir();
     static QGuiApplication* app = new QGuiApplication(argc, argv);
     (void)app;
+}
+
+int RunBenchmarks(int argc, char** argv) {
+    InitGui(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
 }
 
 } // namespace zentor::bench

@@ -20,4 +20,7 @@ struct Workspace {
 // Benchmarks that paint need an application object; call first in main.
 void InitGui(int& argc, char** argv);
 
+// The whole main of a benchmark program: the application object, then every benchmark.
+int RunBenchmarks(int argc, char** argv);
+
 } // namespace zentor::bench

@@ -179,9 +179,5 @@ BENCHMARK(BM_ResampleBackground)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argc, char** argv) {
-    bench::InitGui(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return zentor::bench::RunBenchmarks(argc, argv);
 }

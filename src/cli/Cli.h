@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 namespace zentor::cli {
 
@@ -44,7 +45,17 @@ void PrintJson(const QJsonObject& obj);
 
 } // namespace zentor::cli
 
+namespace zentor {
+struct Document;
+struct LoadReport;
+} // namespace zentor
+
 namespace zentor::cli {
+// Loads a project over the default document. When the file cannot be read, says so on
+// stderr and returns nullptr; `report` tells how far a damaged file went.
+std::unique_ptr<Document> OpenProject(const QString& path, const ProcessContext& ctx,
+                                      LoadReport& report);
+
 // `info` of a package (.qdv or self-running); format is "qdv" or "exe".
 int InfoPackage(const QString& path, const QString& format, const ProcessContext& ctx);
 } // namespace zentor::cli

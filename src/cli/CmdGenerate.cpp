@@ -50,13 +50,10 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
                          out.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive);
     const bool strict = args.has(QStringLiteral("--strict"));
 
-    if (!IsRegularFile(project))
-        return Fail(QStringLiteral("cannot open %1: not a readable file").arg(project));
-    auto doc = std::make_unique<Document>();
-    NewDocument(*doc, ctx);
-    const LoadReport report = LoadScript(*doc, project);
-    if (!report.opened)
-        return Fail(QStringLiteral("cannot open %1").arg(project));
+    LoadReport report;
+    const auto doc = OpenProject(project, ctx, report);
+    if (!doc)
+        return ExitError;
     if (!report.complete)
         Warn(QStringLiteral("%1 is damaged or cut short; generating what could be read")
                  .arg(project));

@@ -26,17 +26,10 @@ int runNew(const Args& args, const ProcessContext& ctx) {
 }
 
 int infoProject(const QString& path, const ProcessContext& ctx) {
-    if (!IsRegularFile(path))
-        return Fail(QStringLiteral("cannot open %1: not a readable file").arg(path));
-    QFile probe(path);
-    if (!probe.open(QIODevice::ReadOnly))
-        return Fail(QStringLiteral("cannot open %1: %2").arg(path, probe.errorString()));
-    probe.close();
-
-    // What the file does not hold stays as the default document has it.
-    auto doc = std::make_unique<Document>();
-    NewDocument(*doc, ctx);
-    const LoadReport report = LoadScript(*doc, path);
+    LoadReport report;
+    const auto doc = OpenProject(path, ctx, report);
+    if (!doc)
+        return ExitError;
     if (!report.complete)
         Warn(QStringLiteral("%1 is damaged or cut short (%2 bytes): read %3 of 8 tabs, %4 texts, "
                             "%5 images")
@@ -97,4 +90,18 @@ const Register
     regPack({QStringLiteral("pack"), QStringLiteral("pack IN.json OUT.qds"), {}, runPack});
 
 } // namespace
+
+std::unique_ptr<Document> OpenProject(const QString& path, const ProcessContext& ctx,
+                                      LoadReport& report) {
+    // What the file does not hold stays as the default document has it.
+    auto doc = std::make_unique<Document>();
+    NewDocument(*doc, ctx);
+    report = LoadScript(*doc, path);
+    if (!report.opened) {
+        Fail(QStringLiteral("cannot open %1: not a readable file").arg(path));
+        return nullptr;
+    }
+    return doc;
+}
+
 } // namespace zentor::cli

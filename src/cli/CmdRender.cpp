@@ -9,8 +9,6 @@
 #include "render/ResImages.h"
 #include "render/WorkspacePainter.h"
 
-#include <QFile>
-
 #include <memory>
 
 namespace zentor::cli {
@@ -40,13 +38,10 @@ int runRender(const Args& args, const ProcessContext& ctx) {
     if (SaveFormatFor(out).isEmpty())
         return Fail(QStringLiteral("%1: OUT must end in .jpg or .png").arg(out), ExitUsage);
 
-    QFile probe(project);
-    if (!IsRegularFile(project) || !probe.open(QIODevice::ReadOnly))
-        return Fail(QStringLiteral("cannot open %1: not a readable file").arg(project));
-    probe.close();
-    auto doc = std::make_unique<Document>();
-    NewDocument(*doc, ctx);
-    const LoadReport report = LoadScript(*doc, project);
+    LoadReport report;
+    const auto doc = OpenProject(project, ctx, report);
+    if (!doc)
+        return ExitError;
     if (!report.complete)
         Warn(QStringLiteral("%1 is damaged or cut short; what it lacks is drawn as the default "
                             "document has it")

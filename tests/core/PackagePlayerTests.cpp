@@ -11,31 +11,16 @@
 
 #include <QDir>
 #include <QJsonDocument>
-#include <QProcess>
 
 namespace zentor::test {
 namespace {
 
+// The player must manage without a display for --info and --export.
 int RunProgram(const QString& program, const QStringList& args, QByteArray* out = nullptr,
                QByteArray* err = nullptr) {
-    QProcess p;
-    // The player must manage without a display for --info and --export.
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.remove(QStringLiteral("DISPLAY"));
-    env.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
-    p.setProcessEnvironment(env);
-    p.start(program, args);
-    if (!p.waitForFinished(120000)) {
-        p.kill();
-        p.waitForFinished();
-        return -1;
-    }
-    if (out)
-        *out = p.readAllStandardOutput();
-    if (err)
-        *err = p.readAllStandardError();
-    return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    return RunProcess(program, args, out, err,
+                      {QStringLiteral("DISPLAY"), QStringLiteral("WAYLAND_DISPLAY"),
+                       QStringLiteral("QT_QPA_PLATFORM")});
 }
 
 class PackagePlayerTest : public ::testing::Test {

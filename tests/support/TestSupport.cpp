@@ -25,9 +25,14 @@ bool WriteAll(const QString& path, const QByteArray& bytes) {
     return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size();
 }
 
-int RunCli(const QStringList& args, QByteArray* out, QByteArray* err) {
+int RunProcess(const QString& program, const QStringList& args, QByteArray* out, QByteArray* err,
+               const QStringList& unset) {
     QProcess p;
-    p.start(QStringLiteral(ZENTOR_CLI_PATH), args);
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    for (const QString& name : unset)
+        env.remove(name);
+    p.setProcessEnvironment(env);
+    p.start(program, args);
     if (!p.waitForFinished(120000)) {
         p.kill();
         p.waitForFinished();
@@ -38,6 +43,10 @@ int RunCli(const QStringList& args, QByteArray* out, QByteArray* err) {
     if (err)
         *err = p.readAllStandardError();
     return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+}
+
+int RunCli(const QStringList& args, QByteArray* out, QByteArray* err) {
+    return RunProcess(QStringLiteral(ZENTOR_CLI_PATH), args, out, err);
 }
 
 } // namespace zentor::test

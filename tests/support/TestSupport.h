@@ -24,6 +24,11 @@ struct Sandbox {
 QByteArray ReadAll(const QString& path);
 bool WriteAll(const QString& path, const QByteArray& bytes);
 
+// Runs a program with the arguments and the environment less `unset`; returns the exit
+// status (-1 for a crash or a hang), fills stdout and stderr.
+int RunProcess(const QString& program, const QStringList& args, QByteArray* out = nullptr,
+               QByteArray* err = nullptr, const QStringList& unset = {});
+
 // Runs zentor-cli with the arguments; returns the exit status, fills stdout and stderr.
 int RunCli(const QStringList& args, QByteArray* out = nullptr, QByteArray* err = nullptr);
 

@@ -23,7 +23,7 @@ void DrawPicture(const PictureSurfaces& s, Document& doc, const QString& path, i
         LayoutTabPicture(doc, mode, tab, trimmed, cache);
         const ImageElement& pic = doc.Tabs[size_t(tab)].Picture;
         target = s.workspace;
-        box = QRect(pic.Left, pic.Top, pic.Width, pic.Height);
+        box = BoxRect(pic.Left, pic.Top, pic.Width, pic.Height);
         break;
     }
     case PictureImageObject: {
@@ -35,7 +35,7 @@ void DrawPicture(const PictureSurfaces& s, Document& doc, const QString& path, i
         img.TabNo = tab;
         img.PicAlign = PictureImageObject;
         target = s.workspace;
-        box = QRect(img.Left, img.Top, img.Width, img.Height);
+        box = BoxRect(img.Left, img.Top, img.Width, img.Height);
         break;
     }
     case PictureTabIcon:

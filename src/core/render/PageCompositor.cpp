@@ -27,24 +27,33 @@ QRect BadgeRect(QSize frame) {
     return QRect(frame.width() - bw - 30, frame.height() - bh - 10, bw, bh);
 }
 
+QImage WhiteFrameCanvas(const Document& doc) {
+    const QSize frame = FrameSize(doc);
+    if (frame.isEmpty())
+        return QImage();
+    QImage canvas(frame, QImage::Format_ARGB32_Premultiplied);
+    if (!canvas.isNull())
+        canvas.fill(0xFFFFFFFFu);
+    return canvas;
+}
+
 static int ContentTabOf(int page) {
     return page == SlideShowTab ? 1 : page;
 }
 
 QImage RenderPageImage(const Document& doc, int page, const ResImages& res, PictureCache* cache) {
-    const QSize frame = FrameSize(doc);
-    if (page < 1 || page > SlideShowTab || frame.isEmpty())
+    if (page < 1 || page > SlideShowTab)
         return QImage();
-    QImage canvas(frame, QImage::Format_ARGB32_Premultiplied);
+    QImage canvas = WhiteFrameCanvas(doc);
     if (canvas.isNull())
         return QImage();
-    canvas.fill(0xFFFFFFFFu);
+    const QSize frame = canvas.size();
     QPainter p(&canvas);
     const int tab = ContentTabOf(page);
 
     const ImageElement& pic = doc.Tabs[size_t(tab)].Picture;
     DrawPictureFile(p, ResolvePath(doc.ScriptPath, pic.FileName.trimmed()),
-                    QRect(pic.Left, pic.Top, pic.Width, pic.Height), cache);
+                    BoxRect(pic.Left, pic.Top, pic.Width, pic.Height), cache);
     DrawPageObjects(p, doc, tab, cache);
 
     if (page == SlideShowTab)

@@ -19,6 +19,10 @@ inline constexpr int MaxFrameSide = 16384;
 // The frame of the document, or an empty size when it is not a sane one.
 QSize FrameSize(const Document& doc);
 
+// A frame-sized 32-bit canvas cleared to opaque white, as every page starts; a null image
+// when the frame is not a sane one.
+QImage WhiteFrameCanvas(const Document& doc);
+
 // Where the slide-show badge goes in a frame: 0.3 of its width, 0.715 as high, 30 pixels
 // from the right and 10 from the bottom (240 x 172 at (530, 418) in 800 x 600).
 QRect BadgeRect(QSize frame);

@@ -15,7 +15,7 @@ void DrawPageObjects(QPainter& p, const Document& doc, int tab, PictureCache* ca
         if (img.TabNo != tab)
             continue;
         DrawPictureFile(p, ResolvePath(doc.ScriptPath, img.FileName.trimmed()),
-                        QRect(img.Left, img.Top, img.Width, img.Height), cache);
+                        BoxRect(img.Left, img.Top, img.Width, img.Height), cache);
     }
     for (int i = 1; i <= MaxTexts; ++i) {
         const TextElement& t = doc.Texts[size_t(i)];

@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace zentor {
 
 QImage PictureCache::picture(const QString& path, QSize drawSize) {
@@ -81,16 +83,27 @@ int PictureCache::count() const {
     return int(entries_.size());
 }
 
+QRect BoxRect(int left, int top, int width, int height) {
+    static constexpr qint64 Far = 1 << 26; // far beyond any frame, far below overflow
+    const auto clamp = [](qint64 v) { return int(std::clamp(v, -Far, Far)); };
+    return QRect(clamp(left), clamp(top), clamp(width), clamp(height));
+}
+
 void DrawStretched(QPainter& p, const QImage& image, const QRect& rect) {
     if (image.isNull() || rect.width() <= 0 || rect.height() <= 0)
         return;
-    if (image.size() == rect.size()) {
-        p.drawImage(rect.topLeft(), image);
+    // Reducing is done by averaging (the painter only samples), enlarging by the painter.
+    const QImage fitted = rect.width() < image.width() || rect.height() < image.height()
+                              ? image.scaled(rect.size().boundedTo(image.size()),
+                                             Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                              : image;
+    if (fitted.size() == rect.size()) {
+        p.drawImage(rect.topLeft(), fitted);
         return;
     }
     p.save();
     p.setRenderHint(QPainter::SmoothPixmapTransform, true);
-    p.drawImage(rect, image);
+    p.drawImage(rect, fitted);
     p.restore();
 }
 

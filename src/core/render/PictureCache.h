@@ -63,6 +63,10 @@ private:
 // something was drawn.
 bool DrawPictureFile(QPainter& p, const QString& path, const QRect& rect, PictureCache* cache);
 
+// A record's box as a rectangle. Damaged files may hold any 32-bit values, so the edges
+// are held to a range where no sum overflows; the visible result is the same.
+QRect BoxRect(int left, int top, int width, int height);
+
 // Draws an image stretched over `rect`, smoothly; nothing for a null image or empty rect.
 void DrawStretched(QPainter& p, const QImage& image, const QRect& rect);
 

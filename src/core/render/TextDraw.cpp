@@ -4,12 +4,14 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QGlyphRun>
 #include <QHash>
 #include <QPainter>
 #include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <mutex>
 
 namespace zentor {
@@ -93,15 +95,16 @@ QFont MakeTextFont(const QString& family, int points, int style, int hint) {
         break;
     case TextHint::AntiAliasGridFit:
         font.setStyleStrategy(QFont::PreferAntialias);
-        font.setHintingPreference(QFont::PreferVerticalHinting);
+        font.setHintingPreference(QFont::PreferFullHinting);
         break;
     case TextHint::AntiAlias:
         font.setStyleStrategy(QFont::PreferAntialias);
         font.setHintingPreference(QFont::PreferNoHinting);
         break;
     case TextHint::ClearTypeGridFit:
+        // ClearType fits the grid vertically and keeps fractional positions across.
         font.setStyleStrategy(QFont::PreferAntialias);
-        font.setHintingPreference(QFont::PreferFullHinting);
+        font.setHintingPreference(QFont::PreferVerticalHinting);
         break;
     case TextHint::SystemDefault:
     default:
@@ -124,7 +127,11 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     const float x = float(left), y = float(top), w = float(width), h = float(height);
     const bool wrap = w > 0, clipY = h > 0;
 
-    QTextLayout layout(s, MakeTextFont(fontName, size, style, hint));
+    const QFont font = MakeTextFont(fontName, size, style, hint);
+    // A sixth of an em of room at each end of a line, as pages laid out on Windows have:
+    // the same text then breaks at the same words.
+    const double pad = font.pixelSize() / 6.0;
+    QTextLayout layout(s, font);
     QTextOption option;
     option.setWrapMode(wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
     layout.setTextOption(option);
@@ -134,14 +141,14 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLeadingIncluded(true);
         if (wrap)
-            line.setLineWidth(w);
+            line.setLineWidth(std::max(1.0, w - 2 * pad));
         const double room = wrap ? w : 0.0;
         const double used = line.naturalTextWidth();
-        double dx = 0;
+        double dx = pad;
         if (align == 1)
             dx = (room - used) / 2;
         else if (align == 2)
-            dx = room - used;
+            dx = room - pad - used;
         line.setPosition(QPointF(dx, lineY));
         lineY += line.height();
         // Top-aligned lines wholly below the box would be clipped away: stop there.
@@ -166,12 +173,24 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     inked.translate(0, dy);
     const bool needClip = (wrap && (inked.left() < 0 || inked.right() > w)) ||
                           (clipY && (inked.top() < 0 || inked.bottom() > h));
+    // Plain text: the glyphs are taken from the layout once and drawn by every pass. Glyph
+    // runs misplace underline and strikeout, so decorated text is drawn by the layout.
+    const bool decorated = style & 12;
+    const QList<QGlyphRun> runs = decorated ? QList<QGlyphRun>() : layout.glyphRuns();
     g.save();
     g.setRenderHint(QPainter::TextAntialiasing, !noAA);
+    auto draw = [&](QPointF at) {
+        if (decorated) {
+            layout.draw(&g, at);
+            return;
+        }
+        for (const QGlyphRun& run : runs)
+            g.drawGlyphRun(at, run);
+    };
     auto pass = [&](uint32_t argb, double ox, double oy) {
         g.setPen(QColor::fromRgba(argb));
         if (!needClip) {
-            layout.draw(&g, QPointF(x + ox, y + oy + dy));
+            draw(QPointF(x + ox, y + oy + dy));
             return;
         }
         QRectF clip(x + ox, y + oy, wrap ? w : 2e7, clipY ? h : 2e7);
@@ -181,7 +200,7 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
             clip.moveTop(-1e7);
         g.save();
         g.setClipRect(clip, Qt::IntersectClip);
-        layout.draw(&g, QPointF(x + ox, y + oy + dy));
+        draw(QPointF(x + ox, y + oy + dy));
         g.restore();
     };
     if (shadow != 0) {
@@ -194,8 +213,20 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     g.restore();
 }
 
+// The text of a field without decoding its padding: a 4096-byte field usually holds a few
+// hundred bytes of text, and pages are repainted while the user drags.
+static QString ShownText(const FixedString<4096>& field) {
+    const char* begin = field.data();
+    const char* nul = static_cast<const char*>(std::memchr(begin, '\0', 4096));
+    qsizetype len = nul ? nul - begin : 4096;
+    // A blank byte is never part of a multi-byte character in the code pages we read.
+    while (len > 0 && begin[len - 1] == ' ')
+        --len;
+    return CodePage::active().decode(QByteArrayView(begin, len));
+}
+
 void DrawTextElement(QPainter& g, const TextElement& t) {
-    DrawFontText(g, t.Text.text(), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
+    DrawFontText(g, ShownText(t.Text), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
                  t.FontSize, t.FontStyle, t.Align, t.LineAlign, uint32_t(t.FontColor), t.FontShadow,
                  t.TextHint, 1);
 }

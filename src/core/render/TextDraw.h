@@ -32,7 +32,10 @@ bool FontFamilyAvailable(const QString& family);
 
 // The font for a text: `points` at 96 dpi whatever the surface (pixel size = points *
 // 96 / 72), style bits bold 1, italic 2, underline 4, strikeout 8, and the hint's
-// antialiasing and hinting.
+// antialiasing and hinting: SingleBitPerPixel* without antialiasing, *GridFit with full
+// hinting, AntiAlias unhinted, ClearTypeGridFit hinted vertically only, SystemDefault as
+// the platform's font settings say (which may coincide with one of the others; on
+// Windows it is usually ClearType).
 QFont MakeTextFont(const QString& family, int points, int style, int hint);
 
 // The one text routine. Draws `text` (trailing blanks removed) into the box, wrapped at

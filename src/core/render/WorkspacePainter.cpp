@@ -60,12 +60,12 @@ void PaintProfile(QPainter& p, const PictureSurfaces& s, Document& doc, int hove
     if (hoverIcon >= 1 && hoverIcon <= MaxTab) {
         auto& name = doc.Tabs[size_t(hoverIcon)].Name;
         name = name.trimmed();
-        caption = name.trimmed();
+        caption = name.text().trimmed(); // shown up to a NUL a damaged file may hold
     } else {
         ProfileRecord& pr = doc.Profile;
         pr.FirstName = pr.FirstName.trimmed();
         pr.LastName = pr.LastName.trimmed();
-        caption = pr.FirstName.trimmed() + QLatin1Char(' ') + pr.LastName.trimmed();
+        caption = pr.FirstName.text().trimmed() + QLatin1Char(' ') + pr.LastName.text().trimmed();
     }
     DrawFontText(p, caption, 0, RoundHalfEven(frame.height() / 2.0) + 80, frame.width(), 24,
                  QStringLiteral("Arial"), 12, 0, 1, 0, 0xFFFFFFFFu, -1, 4, 1);
@@ -94,13 +94,12 @@ QImage WhiteSquare() {
 
 QImage PaintWorkspace(Document& doc, int tab, int hoverIcon, const ResImages& res,
                       const ProcessContext& ctx, PictureCache* cache, IconRectTable* iconRects) {
-    const QSize frame = FrameSize(doc);
-    if (frame.isEmpty() || tab < 0 || tab > MaxTab)
+    if (tab < 0 || tab > MaxTab)
         return QImage();
-    QImage canvas(frame, QImage::Format_ARGB32_Premultiplied);
+    QImage canvas = WhiteFrameCanvas(doc);
     if (canvas.isNull())
         return QImage();
-    canvas.fill(0xFFFFFFFFu);
+    const QSize frame = canvas.size();
     QPainter p(&canvas);
     PictureSurfaces s;
     s.workspace = &p;

@@ -1,0 +1,229 @@
+#include "TestSupport.h"
+
+#include "render/PageCompositor.h"
+#include "render/PictureCache.h"
+#include "render/ResImages.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <thread>
+
+using namespace zentor;
+
+namespace {
+
+constexpr QRgb White = 0xFFFFFFFFu;
+
+QString SolidFile(const test::Sandbox& box, const QString& name, QRgb color,
+                  QSize size = {40, 40}) {
+    QImage img(size, QImage::Format_RGB32);
+    img.fill(color);
+    img.save(box.path(name));
+    return box.path(name);
+}
+
+void PlaceImage(Document& doc, int slot, int tab, const QString& file, QRect r) {
+    ImageElement& e = doc.Images[size_t(slot)];
+    e = doc.Images[0];
+    e.TabNo = tab;
+    e.FileName = file;
+    e.Left = r.x();
+    e.Top = r.y();
+    e.Width = r.width();
+    e.Height = r.height();
+}
+
+void PlaceText(Document& doc, int slot, int tab, const QString& text, QRect r, int color) {
+    TextElement& t = doc.Texts[size_t(slot)];
+    t = doc.Texts[0];
+    t.TabNo = tab;
+    t.Text = text;
+    t.FontName = "Liberation Sans";
+    t.FontSize = 40;
+    t.FontShadow = 0;
+    t.FontColor = color;
+    t.TextHint = 2; // crisp: every text pixel has exactly the text colour
+    t.Left = r.x();
+    t.Top = r.y();
+    t.Width = r.width();
+    t.Height = r.height();
+}
+
+int Count(const QImage& img, QRgb c, QRect in) {
+    int n = 0;
+    for (int y = in.top(); y <= in.bottom(); ++y)
+        for (int x = in.left(); x <= in.right(); ++x)
+            n += img.pixel(x, y) == c;
+    return n;
+}
+
+struct RenderCompositor : ::testing::Test {
+    test::Sandbox box;
+    std::unique_ptr<Document> doc = box.newDocument();
+    ResImages res;
+    RenderCompositor() {
+        QImage badge(24, 17, QImage::Format_RGB32);
+        badge.fill(qRgb(255, 0, 255));
+        res.setImage(ResHired, badge);
+    }
+};
+
+} // namespace
+
+TEST_F(RenderCompositor, TabPictureAtItsStoredRectangle) {
+    ImageElement& pic = doc->Tabs[2].Picture;
+    pic.FileName = QStringLiteral("  ") + SolidFile(box, "tab.png", qRgb(0, 0, 255));
+    pic.Left = 100, pic.Top = 50, pic.Width = 300, pic.Height = 200;
+    const QImage page = RenderPageImage(*doc, 2, res);
+    ASSERT_EQ(page.size(), QSize(800, 600));
+    EXPECT_EQ(Count(page, qRgb(0, 0, 255), QRect(100, 50, 300, 200)), 300 * 200);
+    EXPECT_EQ(Count(page, qRgb(0, 0, 255), page.rect()), 300 * 200);
+    EXPECT_EQ(page.pixel(99, 49), White);
+    // Other pages do not show it.
+    EXPECT_EQ(Count(RenderPageImage(*doc, 3, res), White, QRect(0, 0, 800, 600)), 800 * 600);
+}
+
+TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
+    const QString red = SolidFile(box, "red.png", qRgb(255, 0, 0));
+    const QString green = SolidFile(box, "green.png", qRgb(0, 255, 0));
+    // Slot 3 (green) over slot 2 (red) where they overlap; slot 5 on another tab.
+    PlaceImage(*doc, 2, 4, red, QRect(100, 100, 200, 200));
+    PlaceImage(*doc, 3, 4, green, QRect(200, 200, 200, 200));
+    PlaceImage(*doc, 5, 6, red, QRect(500, 400, 100, 100));
+    // A text in a low slot still lies above a picture in a high one.
+    PlaceText(*doc, 1, 4, QStringLiteral("XXXX"), QRect(210, 210, 180, 80), int(0xFF0000FFu));
+    // A free slot (TabNo 0) with a file is never drawn.
+    PlaceImage(*doc, 7, 4, red, QRect(600, 0, 100, 100));
+    doc->Images[7].TabNo = 0;
+
+    const QImage page = RenderPageImage(*doc, 4, res);
+    EXPECT_EQ(page.pixel(150, 150), qRgb(255, 0, 0));
+    EXPECT_EQ(page.pixel(250, 350), qRgb(0, 255, 0)); // overlap, below the text
+    EXPECT_EQ(Count(page, qRgb(255, 0, 0), QRect(200, 200, 100, 100)), 0);
+    EXPECT_GT(Count(page, qRgb(0, 0, 255), QRect(210, 210, 180, 80)), 200);
+    EXPECT_EQ(page.pixel(550, 450), White);
+    EXPECT_EQ(page.pixel(650, 50), White);
+    // Tab 6 has its own picture, and not tab 4's.
+    const QImage other = RenderPageImage(*doc, 6, res);
+    EXPECT_EQ(other.pixel(550, 450), qRgb(255, 0, 0));
+    EXPECT_EQ(other.pixel(150, 150), White);
+}
+
+TEST_F(RenderCompositor, BadgeOnlyOnTheSlideShowPage) {
+    const QString blue = SolidFile(box, "blue.png", qRgb(0, 0, 255));
+    PlaceImage(*doc, 1, 1, blue, QRect(10, 10, 50, 50));
+    PlaceImage(*doc, 2, 8, blue, QRect(100, 100, 50, 50)); // tab 8 objects are not shown
+    const QRgb badge = qRgb(255, 0, 255);
+    for (const QSize frame : {QSize(800, 600), QSize(640, 480), QSize(1024, 768)}) {
+        doc->Header.FrameWidth = frame.width();
+        doc->Header.FrameHeight = frame.height();
+        const QRect where = BadgeRect(frame);
+        for (int page = 1; page <= 8; ++page) {
+            const QImage img = RenderPageImage(*doc, page, res);
+            ASSERT_EQ(img.size(), frame);
+            const int inBadge = Count(img, badge, img.rect());
+            if (page == 8) {
+                EXPECT_EQ(Count(img, badge, where), where.width() * where.height());
+                EXPECT_EQ(inBadge, where.width() * where.height());
+                EXPECT_EQ(img.pixel(30, 30), qRgb(0, 0, 255)) << "page 8 shows page 1";
+                EXPECT_EQ(img.pixel(120, 120), White);
+            } else {
+                EXPECT_EQ(inBadge, 0) << page;
+                EXPECT_EQ(img.pixel(30, 30), page == 1 ? qRgb(0, 0, 255) : White) << page;
+            }
+        }
+    }
+}
+
+TEST_F(RenderCompositor, RelativePathsFollowTheProject) {
+    SolidFile(box, "rel.png", qRgb(0, 128, 0));
+    PlaceImage(*doc, 1, 1, QStringLiteral("rel.png"), QRect(0, 0, 20, 20));
+    EXPECT_EQ(RenderPageImage(*doc, 1, res).pixel(5, 5), White); // no project folder yet
+    doc->ScriptPath = box.path("resume.qds");
+    EXPECT_EQ(RenderPageImage(*doc, 1, res).pixel(5, 5), qRgb(0, 128, 0));
+}
+
+TEST_F(RenderCompositor, OutputsAndWriteBack) {
+    doc->Tabs[1].Picture.FileName = QStringLiteral("   pic.png");
+    const QByteArray jpeg = RenderPageJpeg(*doc, 8, res);
+    ASSERT_TRUE(jpeg.startsWith("\xFF\xD8"));
+    EXPECT_EQ(QImage::fromData(jpeg).size(), QSize(800, 600));
+    EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(10), QStringLiteral("   pic.png"));
+
+    ASSERT_TRUE(RenderPage(*doc, 8, res, box.ctx));
+    EXPECT_EQ(QImage::fromData(test::ReadAll(box.ctx.TempImagePath)).size(), QSize(800, 600));
+    EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(8), QStringLiteral("pic.png "));
+
+    // Pages outside 1..8 and frames that cannot be drawn give nothing.
+    EXPECT_TRUE(RenderPageImage(*doc, 0, res).isNull());
+    EXPECT_TRUE(RenderPageImage(*doc, 9, res).isNull());
+    for (const QSize bad : {QSize(0, 600), QSize(800, -1), QSize(100000, 100000)}) {
+        doc->Header.FrameWidth = bad.width();
+        doc->Header.FrameHeight = bad.height();
+        EXPECT_TRUE(RenderPageImage(*doc, 1, res).isNull());
+        EXPECT_FALSE(RenderPage(*doc, 1, res, box.ctx));
+    }
+}
+
+TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
+    const QString red = SolidFile(box, "red.png", qRgb(255, 0, 0), QSize(300, 200));
+    const QString blue = SolidFile(box, "blue.png", qRgb(0, 0, 255), QSize(300, 200));
+    for (int tab = 1; tab <= 7; ++tab) {
+        PlaceImage(*doc, tab, tab, tab % 2 ? red : blue, QRect(tab * 20, tab * 30, 300, 200));
+        TextElement& t = doc->Texts[size_t(tab)];
+        t = doc->Texts[0];
+        t.TabNo = tab;
+        t.Text = QStringLiteral("Page %1 of a résumé drawn on a worker thread").arg(tab);
+        t.Left = 50, t.Top = 400, t.Width = 600, t.Height = 100;
+    }
+    std::vector<QImage> sequential;
+    for (int page = 1; page <= 8; ++page)
+        sequential.push_back(RenderPageImage(*doc, page, res));
+    std::vector<QImage> parallel(8);
+    PictureCache shared;
+    const Document& frozen = *doc;
+    std::thread a([&] {
+        for (int page = 1; page <= 8; page += 2)
+            parallel[size_t(page - 1)] = RenderPageImage(frozen, page, res, &shared);
+    });
+    std::thread b([&] {
+        for (int page = 2; page <= 8; page += 2)
+            parallel[size_t(page - 1)] = RenderPageImage(frozen, page, res, &shared);
+    });
+    a.join();
+    b.join();
+    for (size_t i = 0; i < 8; ++i)
+        EXPECT_EQ(parallel[i], sequential[i]) << "page " << i + 1;
+}
+
+TEST_F(RenderCompositor, ExtremeGeometryFromADamagedFileIsSurvived) {
+    const QString red = SolidFile(box, "red.png", qRgb(255, 0, 0));
+    // Left, top, width, height as a damaged file may hold them (no QRect: it would overflow).
+    const int boxes[][4] = {{INT_MAX, INT_MAX, INT_MAX, INT_MAX},
+                            {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
+                            {100, 100, -50, -50},
+                            {0, 0, 100000, 3},
+                            {-5, -5, 0, 0},
+                            {0, 590, 800, INT_MAX}};
+    int slot = 1;
+    for (const auto& b : boxes) {
+        PlaceImage(*doc, slot, 1, red, QRect());
+        PlaceText(*doc, slot, 1, QStringLiteral("far away"), QRect(), -1);
+        ImageElement& img = doc->Images[size_t(slot)];
+        TextElement& t = doc->Texts[size_t(slot)];
+        img.Left = t.Left = b[0];
+        img.Top = t.Top = b[1];
+        img.Width = t.Width = b[2];
+        img.Height = t.Height = b[3];
+        t.FontSize = slot == 1 ? INT_MAX : -slot;
+        ++slot;
+    }
+    const QImage page = RenderPageImage(*doc, 1, res);
+    ASSERT_EQ(page.size(), QSize(800, 600));
+    EXPECT_EQ(page.pixel(400, 2), qRgb(255, 0, 0));   // the 100000 x 3 strip
+    EXPECT_EQ(page.pixel(400, 595), qRgb(255, 0, 0)); // the endless one at the bottom
+    EXPECT_EQ(page.pixel(400, 300), White);
+}

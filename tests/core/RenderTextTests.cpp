@@ -1,0 +1,217 @@
+#include "render/TextDraw.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+using namespace zentor;
+
+namespace {
+
+constexpr QRgb Grey = 0xFF808080u;
+
+struct Text {
+    QString text = QStringLiteral("Hamburgefonts");
+    QRectF box{20, 20, 200, 60};
+    QString font = QStringLiteral("Liberation Sans");
+    int size = 20;
+    int style = 0, align = 0, lineAlign = 0;
+    uint32_t color = 0xFFFF0000u;
+    int shadow = 0;
+    int hint = 4;
+    int offset = 1;
+};
+
+QImage Draw(const Text& t, QRgb background = Grey, int dotsPerMeter = 0) {
+    QImage img(240, 120, QImage::Format_ARGB32_Premultiplied);
+    img.fill(background);
+    if (dotsPerMeter) {
+        img.setDotsPerMeterX(dotsPerMeter);
+        img.setDotsPerMeterY(dotsPerMeter);
+    }
+    QPainter p(&img);
+    DrawFontText(p, t.text, t.box.x(), t.box.y(), t.box.width(), t.box.height(), t.font, t.size,
+                 t.style, t.align, t.lineAlign, t.color, t.shadow, t.hint, t.offset);
+    return img;
+}
+
+// The smallest rectangle holding every pixel that is not the background.
+QRect Ink(const QImage& img, QRgb background = Grey) {
+    QRect r;
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x)
+            if (img.pixel(x, y) != background)
+                r |= QRect(x, y, 1, 1);
+    return r;
+}
+
+int CountPixels(const QImage& img, QRgb color) {
+    int n = 0;
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x)
+            n += img.pixel(x, y) == color;
+    return n;
+}
+
+} // namespace
+
+TEST(RenderText, ShadowColourChoice) {
+    const struct {
+        uint32_t text, shadow;
+    } cases[] = {{0xFF000000u, 0xFFFFFFFFu}, {0xFFFF0000u, 0xFF000000u},
+                 {0xFE000000u, 0xFF000000u}, {0xFF000001u, 0xFF000000u},
+                 {0x00FFFFFFu, 0xFF000000u}, {0xFFFFFFFFu, 0xFF000000u}};
+    for (const auto& c : cases)
+        EXPECT_EQ(ShadowColorFor(c.text), c.shadow) << std::hex << c.text;
+}
+
+TEST(RenderText, ShadowLiesOnePixelRightAndDown) {
+    // Without antialiasing every pixel is either text or shadow, so the shadow's colour
+    // can be found exactly where the glyphs are shifted to.
+    for (const uint32_t color : {0xFF000000u, 0xFFFF0000u}) {
+        Text t;
+        t.color = color;
+        t.hint = 2;
+        t.shadow = -1;
+        const QImage with = Draw(t);
+        t.shadow = 0;
+        const QImage without = Draw(t);
+        const QRgb shadow = ShadowColorFor(color);
+        int shifted = 0;
+        for (int y = 0; y + 1 < with.height(); ++y)
+            for (int x = 0; x + 1 < with.width(); ++x) {
+                // A text pixel whose lower-right neighbour is not text shows the shadow there.
+                if (without.pixel(x, y) == color && without.pixel(x + 1, y + 1) != color) {
+                    EXPECT_EQ(with.pixel(x + 1, y + 1), shadow) << x << "," << y;
+                    ++shifted;
+                }
+            }
+        EXPECT_GT(shifted, 20);
+        EXPECT_EQ(CountPixels(without, shadow), 0);
+        // The text itself is unchanged on top.
+        EXPECT_EQ(CountPixels(with, color), CountPixels(without, color));
+    }
+}
+
+TEST(RenderText, NothingDrawnWhenItCannotBe) {
+    const auto blank = [](Text t) { return Ink(Draw(t)).isNull(); };
+    Text t;
+    EXPECT_FALSE(blank(t));
+    t.font = QStringLiteral("No Such Family Zq");
+    EXPECT_TRUE(blank(t));
+    t = Text();
+    t.text = QStringLiteral("    ");
+    EXPECT_TRUE(blank(t));
+    t = Text();
+    t.size = 0;
+    EXPECT_TRUE(blank(t));
+    // "Arial" is drawn through its metric-compatible stand-in.
+    t = Text();
+    t.font = QStringLiteral("Arial");
+    EXPECT_FALSE(blank(t));
+    EXPECT_TRUE(FontFamilyAvailable(QStringLiteral("Arial")));
+    EXPECT_TRUE(FontFamilyAvailable(QStringLiteral("liberation serif")));
+    EXPECT_FALSE(FontFamilyAvailable(QStringLiteral("Wingdings Zq")));
+}
+
+TEST(RenderText, AlignmentInsideTheBox) {
+    Text t;
+    t.text = QStringLiteral("Mid");
+    t.box = QRectF(20, 10, 200, 100);
+    const struct {
+        int align, lineAlign;
+        int wantLeft; // -1 left third, 0 middle, 1 right third of the box
+        int wantTop;
+    } cases[] = {{0, 0, -1, -1}, {1, 0, 0, -1}, {2, 0, 1, -1},
+                 {0, 1, -1, 0},  {1, 1, 0, 0},  {2, 2, 1, 1}};
+    for (const auto& c : cases) {
+        t.align = c.align;
+        t.lineAlign = c.lineAlign;
+        const QRect ink = Ink(Draw(t));
+        ASSERT_FALSE(ink.isNull());
+        const auto third = [](double v, double lo, double len) {
+            return v < lo + len / 3 ? -1 : v < lo + 2 * len / 3 ? 0 : 1;
+        };
+        EXPECT_EQ(third(ink.center().x(), 20, 200), c.wantLeft) << c.align << c.lineAlign;
+        EXPECT_EQ(third(ink.center().y(), 10, 100), c.wantTop) << c.align << c.lineAlign;
+        EXPECT_TRUE(QRect(20, 10, 200, 100).contains(ink)) << c.align << c.lineAlign;
+    }
+    // Right alignment is flush with the last visible character: trailing blanks go.
+    t.align = 2;
+    t.lineAlign = 0;
+    const QImage plain = Draw(t);
+    t.text += QStringLiteral("     ");
+    EXPECT_EQ(Draw(t), plain);
+}
+
+TEST(RenderText, WrapsAndClipsToTheBox) {
+    Text t;
+    t.text = QStringLiteral("one two three four five six seven eight nine ten eleven twelve");
+    t.box = QRectF(30, 10, 100, 40);
+    t.shadow = -1;
+    const QRect ink = Ink(Draw(t));
+    // Several lines, every one inside the box (the shadow is clipped one pixel further).
+    EXPECT_GT(ink.height(), 30);
+    EXPECT_TRUE(QRect(30, 10, 101, 41).contains(ink))
+        << ink.x() << "," << ink.y() << " " << ink.width() << "x" << ink.height();
+    // A word wider than the box is broken rather than sticking out.
+    t.text = QStringLiteral("Supercalifragilisticexpialidocious");
+    t.shadow = 0;
+    EXPECT_TRUE(QRect(30, 10, 100, 40).contains(Ink(Draw(t))));
+    // Line breaks in the text start new lines.
+    t.text = QStringLiteral("a\r\nb\nc");
+    t.box = QRectF(30, 10, 100, 100);
+    EXPECT_GT(Ink(Draw(t)).height(), 3 * 20);
+}
+
+TEST(RenderText, SizedInPointsAt96DpiOnEverySurface) {
+    Text t;
+    t.text = QStringLiteral("H");
+    t.size = 36; // 48 pixels; a capital H is about 0.72 em high
+    const QRect at96 = Ink(Draw(t, Grey, 3780));
+    EXPECT_NEAR(at96.height(), 48 * 0.72, 3);
+    EXPECT_EQ(Draw(t, Grey, 3780), Draw(t, Grey, 11811)); // 300 dpi draws the same
+}
+
+TEST(RenderText, HintsChooseAntialiasing) {
+    Text t;
+    t.color = 0xFF000000u;
+    t.text = QStringLiteral("Antialiasing wavy ovals");
+    const auto levels = [&](int hint) {
+        t.hint = hint;
+        const QImage img = Draw(t, 0xFFFFFFFFu);
+        QSet<QRgb> seen;
+        for (int y = 0; y < img.height(); ++y)
+            for (int x = 0; x < img.width(); ++x)
+                seen.insert(img.pixel(x, y));
+        return seen.size();
+    };
+    EXPECT_EQ(levels(1), 2); // single bit per pixel: only text and background
+    EXPECT_EQ(levels(2), 2);
+    EXPECT_GT(levels(3), 2);
+    EXPECT_GT(levels(4), 2);
+    EXPECT_GT(levels(5), 2);
+    // Hinting changes the glyph shapes: the five chosen hints all look different.
+    std::vector<QImage> looks;
+    for (int hint = 1; hint <= 5; ++hint) {
+        t.hint = hint;
+        looks.push_back(Draw(t));
+        for (int other = 1; other < hint; ++other)
+            EXPECT_NE(looks.back(), looks[size_t(other - 1)]) << hint << " vs " << other;
+    }
+}
+
+TEST(RenderText, UnderlineSpansTheText) {
+    Text t;
+    t.text = QStringLiteral("HHH HHH");
+    t.style = 2; // italic, centred: where decorations went astray before
+    t.align = 1;
+    const QRect plain = Ink(Draw(t));
+    t.style = 2 | 4;
+    const QRect underlined = Ink(Draw(t));
+    EXPECT_GT(underlined.bottom(), plain.bottom());
+    EXPECT_NEAR(underlined.left(), plain.left(), 3);
+    EXPECT_NEAR(underlined.right(), plain.right(), 3);
+}
