@@ -129,6 +129,13 @@ TEST_F(WindowTest, InsertingATextSelectsItUnderTheFrame) {
     EXPECT_EQ(doc->Texts[slot].TabNo, 7);
     EXPECT_EQ(list->currentIndex(), 1);
     EXPECT_TRUE(list->currentText().startsWith("Text - text 1"));
+    // The text's pane is the one shown, 130 pixels shorter than the tool pane.
+    const int toolHeight = find<QWidget>("PicTool")->height();
+    for (int k = 0; k < 5; ++k) {
+        const QWidget* pane = find<QWidget>(QStringLiteral("PicElementLoc%1").arg(k).toLatin1());
+        EXPECT_EQ(pane->isVisible(), k == KindText) << k;
+        EXPECT_EQ(pane->height(), toolHeight - 130) << k;
+    }
     EXPECT_TRUE(frame->isVisible());
     EXPECT_EQ(frame->geometry(), QRect(0, 0, 150, 150));
     // Handles: corners and edge middles, inside the frame.
