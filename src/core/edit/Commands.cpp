@@ -1,0 +1,167 @@
+#include "edit/DeleteObject.h"
+#include "edit/Editor.h"
+#include "edit/InsertObject.h"
+#include "edit/TabNavigation.h"
+#include "edit/ZOrder.h"
+#include "io/ScriptFile.h"
+#include "model/DefaultDocument.h"
+
+#include <QFileInfo>
+
+namespace zentor {
+
+namespace {
+
+const QString ScriptFilter = QStringLiteral("*.qds|*.qds|*.*|*.*");
+const QString SaveTitle = QStringLiteral("Save QDV Script File");
+
+} // namespace
+
+QString SupportPage() {
+    return QString::fromLatin1(HomePage) + QStringLiteral("support/");
+}
+
+void Editor::menuCommand(int index) {
+    commitInPlaceEdit();
+    CommonModth(index);
+}
+
+void Editor::aboutMenu(int index) {
+    if (index == 1)
+        view_.openUrl(SupportPage());
+    else if (index == 2)
+        view_.openUrl(QString::fromLatin1(HomePage));
+    else if (index == 6)
+        view_.showAbout();
+}
+
+void Editor::CommonModth(int index) {
+    using Pointer = EditorView::Pointer;
+    const auto window = EditorView::PointerTarget::Window;
+    switch (index) {
+    case CmdNew:
+    case CmdOpen:
+        if (doc_.Dirty) {
+            const Prompter::Answer a = prompter_.ask(
+                index == CmdNew ? QStringLiteral("New File") : QStringLiteral("Open File"),
+                QStringLiteral("Do you want to save the work?"), Prompter::Buttons::YesNoCancel,
+                Prompter::Icon::Question, Prompter::Answer::No);
+            if (a == Prompter::Answer::Cancel)
+                return;
+            if (a == Prompter::Answer::Yes)
+                CommonModth(CmdSave);
+        }
+        newOrOpen(index);
+        break;
+    case CmdSave:
+    case CmdSaveAs:
+        view_.setPointer(window, Pointer::Hourglass);
+        if (!save(index == CmdSaveAs))
+            return;
+        view_.setPointer(window, Pointer::Normal);
+        break;
+    case CmdInsertImage:
+    case CmdInsertText:
+        if (st_.CurrentTab < 1 || st_.CurrentTab > 7)
+            return;
+        insert(index == CmdInsertImage ? KindImage : KindText);
+        break;
+    case CmdDelete:
+        DelObject(doc_, st_.SelectedKind, st_.SelectedIndex, st_.CurrentTab, prompter_, ctx_);
+        // Reloaded whatever the answer.
+        LoadTab(st_.CurrentTab);
+        break;
+    case CmdMoveToTop:
+    case CmdMoveToBottom:
+        st_.SelectedIndex = ZOrderArr(doc_, st_.SelectedKind, st_.SelectedIndex, st_.CurrentTab,
+                                      index == CmdMoveToTop);
+        RefreshTab(st_.CurrentTab);
+        break;
+    case CmdPreviousTab:
+    case CmdNextTab:
+        step(index == CmdNextTab);
+        break;
+    case CmdGenerateQdv:
+    case CmdGenerateSelfrun:
+        view_.setPointer(window, Pointer::Hourglass);
+        if (generate_)
+            generate_(index == CmdGenerateSelfrun);
+        view_.setPointer(window, Pointer::Normal);
+        break;
+    case CmdSettings:
+        view_.showSettings();
+        break;
+    default:
+        break;
+    }
+    endingSteps(index);
+}
+
+void Editor::endingSteps(int index) {
+    // Delete and the z-order commands mark the document even when nothing was selected.
+    if (index >= CmdInsertImage && index <= CmdMoveToBottom)
+        doc_.Dirty = true;
+    view_.setStatusText(QStringLiteral("Ready"));
+}
+
+void Editor::newOrOpen(int index) {
+    if (index == CmdNew) {
+        NewDocument(doc_, ctx_);
+    } else {
+        const QString path =
+            prompter_.chooseFile(false, QStringLiteral("Open QDV Script File"), ScriptFilter);
+        // Loaded over the current document: slots the file does not fill keep their objects.
+        if (!path.isEmpty())
+            LoadScript(doc_, path);
+    }
+    sizeAndCentreWorkspace();
+    applyStripCaptions();
+    LoadTab(st_.CurrentTab);
+    doc_.Dirty = false;
+}
+
+// Returns false when the user refused to overwrite (the command stops there).
+bool Editor::save(bool alwaysAsk) {
+    QString path = doc_.ScriptPath;
+    if (alwaysAsk || path.isEmpty()) {
+        path = prompter_.chooseFile(
+            true, alwaysAsk ? QStringLiteral("Save as QDV Script File") : SaveTitle, ScriptFilter);
+        if (path.isEmpty())
+            return true;
+        // Case-sensitive on purpose: "cv.QDS" becomes "cv.QDS.qds".
+        if (!path.endsWith(QStringLiteral(".qds")))
+            path += QStringLiteral(".qds");
+        if (QFileInfo::exists(path) &&
+            !prompter_.askYesNo(SaveTitle,
+                                QStringLiteral("This file already exists. Do you want to "
+                                               "overwrite it?"))) {
+            view_.setPointer(EditorView::PointerTarget::Window, EditorView::Pointer::Normal);
+            return false;
+        }
+    }
+    if (!SaveScript(doc_, path))
+        prompter_.warn(SaveTitle, QStringLiteral("Can't save file : ") + path);
+    return true;
+}
+
+void Editor::insert(int kind) {
+    const int slot = InsertObject(doc_, kind, st_.CurrentTab);
+    st_.SelectedKind = kind;
+    st_.SelectedIndex = slot;
+    LoadTab(st_.CurrentTab);
+    // LoadTab selected the page; now the new object's own row.
+    const int row = FindObjectRow(st_.ObjectMap, {kind, slot});
+    if (row >= 0 && row < st_.Rows.size())
+        selectRow(row);
+}
+
+void Editor::step(bool next) {
+    const int k = view_.selectedStrip();
+    const int target = next ? NextStrip(k) : PrevStrip(k);
+    if (target < 1 || target > StripCount)
+        return;
+    view_.selectStrip(target);
+    stripClicked();
+}
+
+} // namespace zentor

@@ -1,0 +1,77 @@
+#include "edit/HitTest.h"
+
+#include <cmath>
+
+namespace zentor {
+
+namespace {
+
+template <typename Element> bool Hit(const Element& e, int tab, double x, double y) {
+    return e.TabNo == tab && e.Left <= x && x <= double(e.Left) + e.Width && e.Top <= y &&
+           y <= double(e.Top) + e.Height;
+}
+
+// Examines slots U-1 down to 0 (never U) and returns the list row of the first hit that
+// has one, or -1.
+template <typename Table>
+int FirstHitRow(const Table& table, int kind, const std::array<ObjectRef, ObjectMapRows>& map,
+                int tab, double x, double y) {
+    const int upper = int(table.size()) - 1;
+    for (int i = 1; i <= upper; ++i) {
+        const int s = upper - i;
+        if (!Hit(table[s], tab, x, y))
+            continue;
+        const int row = FindObjectRow(map, {kind, s});
+        if (row >= 0)
+            return row;
+    }
+    return -1;
+}
+
+// Whole numbers from floating point the way the original runtime converts: halves to even.
+int RoundEven(double v) {
+    return int(std::nearbyint(v));
+}
+
+} // namespace
+
+int SelectByMouse(const Document& doc, const std::array<ObjectRef, ObjectMapRows>& map,
+                  int currentTab, double x, double y) {
+    if (currentTab < 1 || currentTab > 7)
+        return -1;
+    int row = FirstHitRow(doc.Texts, KindText, map, currentTab, x, y);
+    if (row < 0)
+        row = FirstHitRow(doc.Images, KindImage, map, currentTab, x, y);
+    return row < 0 ? 0 : row;
+}
+
+std::array<EdgeRect, 9> IconRingRects(int frameW, int frameH) {
+    constexpr double Pi = 3.1415926;
+    constexpr double Radius = 250;
+    constexpr int Icon = 80;
+    const int cx = RoundEven(frameW / 2.0);
+    const int cy = RoundEven(frameH / 2.0);
+    std::array<EdgeRect, 9> rects{};
+    for (int i = 1; i <= 8; ++i) {
+        const double a = (i - 1) * 45 * Pi / 180;
+        const double x = Radius * std::cos(a) + cx;
+        const double y = Radius * std::sin(a) + cy;
+        rects[i] = {RoundEven(x - Icon / 2), RoundEven(y - Icon / 2),
+                    RoundEven(x - Icon / 2 + Icon), RoundEven(y - Icon / 2 + Icon)};
+    }
+    const int left = RoundEven((frameW - 128) / 2.0);
+    const int top = RoundEven((frameH - 128) / 2.0);
+    rects[0] = {left, top, left + 128, top + 128};
+    return rects;
+}
+
+int HoverIconAt(const std::array<EdgeRect, 9>& rects, double x, double y) {
+    for (int i = 1; i <= 8; ++i) {
+        const EdgeRect& r = rects[i];
+        if (r.left < x && x < r.right && r.top < y && y < r.bottom)
+            return i;
+    }
+    return 0;
+}
+
+} // namespace zentor
