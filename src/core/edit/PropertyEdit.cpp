@@ -43,6 +43,14 @@ std::optional<int32_t> ToInt32(double v) {
     return int32_t(r);
 }
 
+// Texts keep the Windows line break the player and older projects use.
+QString WindowsLineBreaks(const QString& text) {
+    QString s = text;
+    s.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    s.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+    return s;
+}
+
 } // namespace
 
 PropertyTarget CurrentTarget(const EditorState& st) {
@@ -93,7 +101,9 @@ QString PropertyBoxText(const Document& doc, const PropertyTarget& t, PropertyTe
     case PropertyText::TextName:
         return ValidText(t.slot) ? doc.Texts[t.slot].Name.trimNull() : QString();
     case PropertyText::Word:
-        return ValidText(t.slot) ? doc.Texts[t.slot].Text.text() : QString();
+        if (!ValidText(t.slot))
+            return QString();
+        return QString(doc.Texts[t.slot].Text.text()).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     case PropertyText::KeepOnTime:
         return QString::number(doc.Header.KeepOnTime);
     }
@@ -148,7 +158,7 @@ TextCommit CommitPropertyText(Document& doc, const PropertyTarget& t, PropertyTe
     case PropertyText::Word:
         if (!ValidText(t.slot))
             return {};
-        changed = Store(doc.Texts[t.slot].Text, text);
+        changed = Store(doc.Texts[t.slot].Text, WindowsLineBreaks(text));
         break;
     case PropertyText::KeepOnTime: {
         c.refresh = false;
@@ -401,6 +411,11 @@ QString StoredFile(const Document& doc, const PropertyTarget& t, FileChoice choi
 
 QString BackColorText(int32_t backColor) {
     return QStringLiteral("     &H") + HexColor(uint32_t(backColor), 8);
+}
+
+uint32_t BackColorArgb(int32_t backColor) {
+    const uint32_t v = uint32_t(backColor);
+    return 0xFF000000u | ((v & 0xFFu) << 16) | (v & 0xFF00u) | ((v >> 16) & 0xFFu);
 }
 
 int32_t ChooseAndStoreBackColor(Prompter& prompter, Document& doc) {

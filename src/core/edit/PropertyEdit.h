@@ -49,7 +49,8 @@ bool MarksDirtyOnChange(PropertyText box);
 bool CommitsOnEnter(PropertyText box);
 
 // What a box shows when its pane is filled: names and paths trimmed and cut at the first
-// NUL, the words with their trailing blanks removed, the holding time as a number.
+// NUL, the words with their trailing blanks removed and line breaks as "\n", the holding
+// time as a number.
 QString PropertyBoxText(const Document& doc, const PropertyTarget& t, PropertyText box);
 
 struct TextCommit {
@@ -59,7 +60,7 @@ struct TextCommit {
 };
 
 // A box commits: its whole text goes into its field, cut to the field's width and padded
-// with blanks. The holding time takes the text as a whole number and keeps its old value
+// with blanks; line breaks in the words are stored as "\r\n". The holding time takes the text as a whole number and keeps its old value
 // when the text is not one. Dirty is set when the document's bytes changed.
 TextCommit CommitPropertyText(Document& doc, const PropertyTarget& t, PropertyText box,
                               const QString& text);
@@ -124,6 +125,8 @@ QString StoredFile(const Document& doc, const PropertyTarget& t, FileChoice choi
 // The page background colour as the panel shows it: five blanks, "&H" and eight upper-case
 // hexadecimal digits of the 0x00BBGGRR value.
 QString BackColorText(int32_t backColor);
+// The same colour as opaque 0xAARRGGBB, for showing it.
+uint32_t BackColorArgb(int32_t backColor);
 // The colour button: the dialog's answer is stored as it is, and a cancelled dialog answers
 // 0, so cancelling turns the background black. Returns the stored value.
 int32_t ChooseAndStoreBackColor(Prompter& prompter, Document& doc);
