@@ -2,6 +2,8 @@
 # Renders the program's artwork from the SVG sources beside this script:
 #   pictures/*.svg           -> resources/pictures/NAME.png (the eleven built-in pictures)
 #   background/bakpic.svg    -> resources/bakpic.jpg        (the default page background)
+#   toolbar/*.svg            -> resources/icons/NAME.png    (24 x 24 toolbar icons)
+#   ../icons/zentor.svg      -> resources/icons/zentor.png  (256 x 256 application icon)
 # Needs rsvg-convert (librsvg2-bin) and ImageMagick's convert; the outputs are
 # committed, so this only has to run after a source changed.
 set -euo pipefail
@@ -28,6 +30,12 @@ while read -r name src w h; do
     [ -n "$name" ] || continue
     rsvg-convert -w "$w" -h "$h" "$ART/pictures/$src.svg" -o "$RES/pictures/$name.png"
 done <<<"$PICTURES"
+
+mkdir -p "$RES/icons"
+for svg in "$ART"/toolbar/*.svg; do
+    rsvg-convert -w 24 -h 24 "$svg" -o "$RES/icons/$(basename "$svg" .svg).png"
+done
+rsvg-convert -w 256 -h 256 "$RES/icons/zentor.svg" -o "$RES/icons/zentor.png"
 
 # A touch of grain keeps the JPEG's long, dark gradients from banding.
 TMP="$(mktemp -d)"

@@ -139,8 +139,10 @@ bool Editor::save(bool alwaysAsk) {
             return false;
         }
     }
-    if (!SaveScript(doc_, path))
+    if (!SaveScript(doc_, path)) {
+        view_.setPointer(EditorView::PointerTarget::Window, EditorView::Pointer::Normal);
         prompter_.warn(SaveTitle, QStringLiteral("Can't save file : ") + path);
+    }
     return true;
 }
 

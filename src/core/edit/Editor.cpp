@@ -13,7 +13,8 @@ Editor::Editor(Document& doc, const ProcessContext& ctx, EditorView& view, Promp
     : doc_(doc), ctx_(ctx), view_(view), prompter_(prompter) {}
 
 void Editor::formLoad() {
-    view_.placeWorkspace({0, 0, doc_.Header.FrameWidth, doc_.Header.FrameHeight});
+    // Centred now rather than at the first viewport resize: the same picture for the user.
+    sizeAndCentreWorkspace();
     IntRect start{100, 100, 100, 100};
     moveAdd(start);
     st_.CurrentTab = 0;
@@ -43,16 +44,16 @@ bool Editor::queryUnload() {
 }
 
 void Editor::fillPage(int tab) {
-    view_.setObjectRows({});
-    st_.Rows.clear();
-    st_.CurrentRow = -1;
     if (tab == ProfileTab)
         st_.IconRects = IconRingRects(doc_.Header.FrameWidth, doc_.Header.FrameHeight);
     ApplyPageLoadWriteBacks(doc_, tab, st_.HoverIcon);
     ObjectList list = BuildObjectList(doc_, tab);
     st_.Rows = list.rows;
     st_.ObjectMap = list.map;
+    // The list starts with no row chosen (a widget may pick one by itself on filling).
+    st_.CurrentRow = -1;
     view_.setObjectRows(st_.Rows);
+    view_.setCurrentRow(-1);
 }
 
 void Editor::RefreshTab(int tab) {

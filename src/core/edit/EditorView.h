@@ -27,8 +27,8 @@ public:
     // `hoverIcon` (0..8) highlighted as the profile page's caption; then show it.
     virtual void paintWorkspace(int tab, int hoverIcon) = 0;
 
-    // The object list: replace every row (an empty list clears it), or select row `row`
-    // (-1 selects nothing).
+    // The object list: replace every row, or select row `row` (-1 selects nothing). The
+    // editor selects after every fill, -1 first.
     virtual void setObjectRows(const QStringList& rows) = 0;
     virtual void setCurrentRow(int row) = 0;
 

@@ -1,5 +1,7 @@
 #include "edit/HitTest.h"
 
+#include "render/IconRing.h"
+
 #include <cmath>
 
 namespace zentor {
@@ -28,11 +30,6 @@ int FirstHitRow(const Table& table, int kind, const std::array<ObjectRef, Object
     return -1;
 }
 
-// Whole numbers from floating point the way the original runtime converts: halves to even.
-int RoundEven(double v) {
-    return int(std::nearbyint(v));
-}
-
 } // namespace
 
 int SelectByMouse(const Document& doc, const std::array<ObjectRef, ObjectMapRows>& map,
@@ -46,22 +43,11 @@ int SelectByMouse(const Document& doc, const std::array<ObjectRef, ObjectMapRows
 }
 
 std::array<EdgeRect, 9> IconRingRects(int frameW, int frameH) {
-    constexpr double Pi = 3.1415926;
-    constexpr double Radius = 250;
-    constexpr int Icon = 80;
-    const int cx = RoundEven(frameW / 2.0);
-    const int cy = RoundEven(frameH / 2.0);
+    // The ring is laid out once, by the painter that draws it.
+    const IconRectTable drawn = IconRects(QSize(frameW, frameH));
     std::array<EdgeRect, 9> rects{};
-    for (int i = 1; i <= 8; ++i) {
-        const double a = (i - 1) * 45 * Pi / 180;
-        const double x = Radius * std::cos(a) + cx;
-        const double y = Radius * std::sin(a) + cy;
-        rects[i] = {RoundEven(x - Icon / 2), RoundEven(y - Icon / 2),
-                    RoundEven(x - Icon / 2 + Icon), RoundEven(y - Icon / 2 + Icon)};
-    }
-    const int left = RoundEven((frameW - 128) / 2.0);
-    const int top = RoundEven((frameH - 128) / 2.0);
-    rects[0] = {left, top, left + 128, top + 128};
+    for (size_t i = 0; i < rects.size(); ++i)
+        rects[i] = {drawn[i].Left, drawn[i].Top, drawn[i].Right, drawn[i].Bottom};
     return rects;
 }
 

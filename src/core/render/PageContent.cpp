@@ -1,0 +1,27 @@
+#include "render/PageContent.h"
+
+#include "io/FileUtil.h"
+#include "model/Document.h"
+#include "render/PictureCache.h"
+#include "render/TextDraw.h"
+
+#include <QPainter>
+
+namespace zentor {
+
+void DrawPageObjects(QPainter& p, const Document& doc, int tab, PictureCache* cache) {
+    for (int i = 1; i <= MaxImages; ++i) {
+        const ImageElement& img = doc.Images[size_t(i)];
+        if (img.TabNo != tab)
+            continue;
+        DrawPictureFile(p, ResolvePath(doc.ScriptPath, img.FileName.trimmed()),
+                        QRect(img.Left, img.Top, img.Width, img.Height), cache);
+    }
+    for (int i = 1; i <= MaxTexts; ++i) {
+        const TextElement& t = doc.Texts[size_t(i)];
+        if (t.TabNo == tab)
+            DrawTextElement(p, t);
+    }
+}
+
+} // namespace zentor

@@ -1,0 +1,15 @@
+#pragma once
+
+class QPainter;
+
+namespace zentor {
+
+struct Document;
+class PictureCache;
+
+// The objects of one content tab, as both the generated page and the workspace show them:
+// every picture in slot order, then every text in slot order, so a text always lies above
+// every picture and a higher slot above a lower one. Reads the document only.
+void DrawPageObjects(QPainter& p, const Document& doc, int tab, PictureCache* cache);
+
+} // namespace zentor

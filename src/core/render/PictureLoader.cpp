@@ -1,0 +1,97 @@
+#include "render/PictureLoader.h"
+
+#include "io/FileUtil.h"
+
+#include <QImageReader>
+
+#include <algorithm>
+
+namespace zentor {
+namespace {
+
+// Enough for MaxPicturePixels at 4 bytes a pixel, with room for the decoder's own work.
+constexpr int AllocationLimitMB = 320;
+
+bool SaneSize(QSize s) {
+    return s.width() > 0 && s.height() > 0 &&
+           qint64(s.width()) * qint64(s.height()) <= MaxPicturePixels;
+}
+
+void Prepare(QImageReader& reader) {
+    reader.setAllocationLimit(AllocationLimitMB);
+    reader.setAutoTransform(false); // drawn as stored, the same on every surface
+    reader.setQuality(100);         // smooth scaling inside the decoder
+}
+
+// Icon files hold several pictures: take the largest, which scales down best.
+void PickLargestIcon(QImageReader& reader) {
+    const int count = reader.imageCount();
+    if (count <= 1)
+        return;
+    int best = 0;
+    qint64 bestArea = -1;
+    for (int i = 0; i < count; ++i) {
+        if (!reader.jumpToImage(i))
+            break;
+        const QSize s = reader.size();
+        const qint64 area = qint64(s.width()) * s.height();
+        if (SaneSize(s) && area > bestArea) {
+            bestArea = area;
+            best = i;
+        }
+    }
+    reader.jumpToImage(best);
+}
+
+} // namespace
+
+QSize ReadPictureSize(const QString& path) {
+    if (!IsRegularFile(path))
+        return QSize(0, 0);
+    QImageReader reader(path);
+    Prepare(reader);
+    if (reader.format() == "ico")
+        PickLargestIcon(reader);
+    QSize s = reader.size();
+    if (!s.isValid()) {
+        // Some formats only know their size after decoding.
+        const QImage img = reader.read();
+        s = img.size();
+    }
+    return SaneSize(s) ? s : QSize(0, 0);
+}
+
+QImage LoadPicture(const QString& path, QSize drawSize) {
+    if (!IsRegularFile(path))
+        return QImage();
+    QImageReader reader(path);
+    Prepare(reader);
+    if (!reader.canRead())
+        return QImage();
+    if (reader.format() == "ico")
+        PickLargestIcon(reader);
+    const QSize natural = reader.size();
+    if (natural.isValid() && !SaneSize(natural))
+        return QImage();
+    QSize decode;
+    if (natural.isValid() && drawSize.width() > 0 && drawSize.height() > 0) {
+        // Never below the drawn size in either direction, never above the picture itself.
+        decode = QSize(std::min(drawSize.width(), natural.width()),
+                       std::min(drawSize.height(), natural.height()));
+        if (decode != natural)
+            reader.setScaledSize(decode);
+    }
+    QImage img = reader.read();
+    if (img.isNull() || !SaneSize(img.size()))
+        return QImage();
+    // Formats that cannot decode scaled are reduced here, averaging, not sampling.
+    if (decode.isValid() && img.size() != decode)
+        img = img.scaled(decode, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (img.format() != QImage::Format_ARGB32_Premultiplied && img.hasAlphaChannel())
+        img.convertTo(QImage::Format_ARGB32_Premultiplied);
+    else if (!img.hasAlphaChannel() && img.format() != QImage::Format_RGB32)
+        img.convertTo(QImage::Format_RGB32);
+    return img;
+}
+
+} // namespace zentor
