@@ -6,9 +6,11 @@
 #include "editor/FrmSet.h"
 #include "editor/FrmTextColor.h"
 #include "editor/props/CommitEdits.h"
-#include "editor/props/IconPreview.h"
 #include "editor/props/PaneControls.h"
 #include "model/TabMap.h"
+#include "render/PictureCache.h"
+#include "render/ResImages.h"
+#include "render/WorkspacePainter.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -28,6 +30,9 @@ struct PropertyPanes::Impl {
     const ProcessContext& ctx;
     EditorView* view = nullptr;
     PaneControls c;
+    // The built-in pictures stand in for a tab or user icon that was never chosen.
+    ResImages res = ResImages::load();
+    PictureCache cache{16LL * 1024 * 1024};
     // What each pane was last filled for; its controls write there.
     std::array<PropertyTarget, 5> targets{};
     // Every committing box with its commit, for commitPendingEdit.
@@ -183,10 +188,10 @@ void PropertyPanes::Impl::chooseFile(const PropertyTarget& t, FileChoice choice)
         return;
     switch (choice) {
     case FileChoice::UserIcon:
-        c.PicUserIcon->setPixmap(QPixmap::fromImage(UserIconImage(doc())));
+        c.PicUserIcon->setPixmap(QPixmap::fromImage(UserIconPreview(doc(), res, &cache)));
         break;
     case FileChoice::TabIcon:
-        c.PicTabIcon->setPixmap(QPixmap::fromImage(TabIconImage(doc(), t.tab)));
+        c.PicTabIcon->setPixmap(QPixmap::fromImage(TabIconPreview(doc(), t.tab, res, &cache)));
         break;
     case FileChoice::TabPicture:
         c.TxtTabPicture->setText(path);
@@ -209,6 +214,8 @@ void PropertyPanes::Impl::chooseFont() {
     const PropertyTarget t = targets[KindText];
     if (t.slot < 0 || t.slot > MaxTexts)
         return;
+    FrmTextColor dialog(doc(), t.slot, panes[KindText]->window());
+    dialog.exec();
     c.TxtFontName->setText(TrimStoredFontName(doc(), t));
     refresh();
 }
@@ -251,7 +258,7 @@ void PropertyPanes::Impl::fill(int kind, int index) {
     case KindTab: {
         const PropertyTarget t{index, 0};
         targets[KindTab] = t;
-        c.PicTabIcon->setPixmap(QPixmap::fromImage(TabIconImage(d, index)));
+        c.PicTabIcon->setPixmap(QPixmap::fromImage(TabIconPreview(d, index, res, &cache)));
         c.TxtTabName->setText(PropertyBoxText(d, t, PropertyText::TabName));
         c.TxtTabPicture->setText(StoredFile(d, t, FileChoice::TabPicture));
         setRow(c.CombTabPicAlign, t, PropertyCombo::TabPicAlign);
@@ -294,7 +301,7 @@ void PropertyPanes::Impl::fill(int kind, int index) {
         for (const auto& [box, which] : boxes)
             box->setText(PropertyBoxText(d, t, which));
         showBackPicture();
-        c.PicUserIcon->setPixmap(QPixmap::fromImage(UserIconImage(d)));
+        c.PicUserIcon->setPixmap(QPixmap::fromImage(UserIconPreview(d, res, &cache)));
         break;
     }
     case KindSlideShow: {
