@@ -351,6 +351,12 @@ TEST_F(PropsPanes, FileChoicesStoreShowAndRedrawAsListed) {
     showTab(5);
     prompter.expectFile(false, "Choose tab icon file", "*.ico;*.png|*.ico;*.png|*.*|*.*", pic)
         .expectFile(false, "Choose picture file", icoPics, "/pictures/wide.jpg");
+    // Without an icon of its own a page shows its built-in picture.
+    const QImage builtIn = control<QLabel>(0, "PicTabIcon")->pixmap().toImage();
+    ASSERT_EQ(builtIn.size(), QSize(128, 128));
+    QImage white(128, 128, QImage::Format_RGB32);
+    white.fill(Qt::white);
+    EXPECT_NE(builtIn.convertToFormat(QImage::Format_RGB32), white);
     paints = view.paints;
     control<QPushButton>(0, "CmdTabIcon")->click();
     EXPECT_EQ(view.paints, paints);
