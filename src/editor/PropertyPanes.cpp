@@ -325,6 +325,8 @@ void PropertyPanes::Impl::fill(int kind, int index) {
 PropertyPanes::PropertyPanes(const std::array<QWidget*, 5>& panes, Editor& editor,
                              Prompter& prompter, const ProcessContext& ctx, QObject* parent)
     : QObject(parent), d_(new Impl(this, panes, editor, prompter, ctx)) {
+    // The main window is both the panes' owner and the editor's view.
+    d_->view = dynamic_cast<EditorView*>(parent);
     d_->build();
 }
 

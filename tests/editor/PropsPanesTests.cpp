@@ -418,3 +418,27 @@ TEST_F(PropsPanes, ALateCommitWritesTheObjectThePaneWasFilledFor) {
     EXPECT_EQ(doc->Images[1].Name.text(), "Portrait");
     EXPECT_EQ(doc->Texts[1].Name.text(), "Intro");
 }
+
+TEST(PropsPanesOwner, AMainWindowParentIsTheView) {
+    // The main window owns the panes and is the editor's view at once.
+    struct Window : QObject, PropsFakeView {};
+    Sandbox box;
+    auto doc = box.newDocument();
+    Window window;
+    ScriptedPrompter prompter;
+    QWidget host;
+    std::array<QWidget*, 5> paneWidgets{};
+    for (auto& p : paneWidgets)
+        p = new QWidget(&host);
+    Editor editor(*doc, box.ctx, window, prompter);
+    auto* panes = new PropertyPanes(paneWidgets, editor, prompter, box.ctx, &window);
+    window.panes = panes;
+    host.show();
+    editor.state().CurrentTab = 6;
+    editor.LoadTab(6);
+    auto* name = paneWidgets[0]->findChild<CommitLineEdit*>("TxtTabName");
+    name->setText("Languages");
+    emit name->committed();
+    EXPECT_EQ(window.strip.value(GetTabIndex(6)), "Languages");
+    EXPECT_EQ(doc->Tabs[6].Name.text(), "Languages");
+}

@@ -5,10 +5,11 @@
 #include "model/ProcessContext.h"
 
 int main(int argc, char** argv) {
-    // Widgets need a QApplication; the tests never need a display.
+    // The real widgets, without a display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     zentor::PrepareRuntimeDir();
     QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Vitara Zentor"));
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
