@@ -132,7 +132,7 @@ void PropertyPanes::Impl::commitText(int pane, PropertyText kind, CommitLineEdit
     const TextCommit r = CommitPropertyText(doc(), targets[size_t(pane)], kind, text);
     if (!r.stored) {
         // Not a number: the box shows again what is kept.
-        box->setText(PropertyBoxText(doc(), targets[size_t(pane)], kind));
+        box->fill(PropertyBoxText(doc(), targets[size_t(pane)], kind));
         return;
     }
     if (r.renameStrip && view)
@@ -194,16 +194,16 @@ void PropertyPanes::Impl::chooseFile(const PropertyTarget& t, FileChoice choice)
         c.PicTabIcon->setPixmap(QPixmap::fromImage(TabIconPreview(doc(), t.tab, res, &cache)));
         break;
     case FileChoice::TabPicture:
-        c.TxtTabPicture->setText(path);
+        c.TxtTabPicture->fill(path);
         break;
     case FileChoice::ImageFile:
-        c.TxtImgFile->setText(path);
+        c.TxtImgFile->fill(path);
         break;
     case FileChoice::BackPicture:
         showBackPicture();
         break;
     case FileChoice::BackMusic:
-        c.TxtBakMusic->setText(path);
+        c.TxtBakMusic->fill(path);
         break;
     }
     if (FileChoiceFor(choice).refresh)
@@ -216,7 +216,7 @@ void PropertyPanes::Impl::chooseFont() {
         return;
     FrmTextColor dialog(doc(), t.slot, panes[KindText]->window());
     dialog.exec();
-    c.TxtFontName->setText(TrimStoredFontName(doc(), t));
+    c.TxtFontName->fill(TrimStoredFontName(doc(), t));
     refresh();
 }
 
@@ -227,8 +227,8 @@ void PropertyPanes::Impl::chooseBackColor() {
 
 void PropertyPanes::Impl::showBackPicture() {
     const QString path = doc().Header.BackPicture.trimNull();
-    c.TxtBakPic->setText(path);
-    c.ProfileBakPic->setText(path);
+    c.TxtBakPic->fill(path);
+    c.ProfileBakPic->fill(path);
 }
 
 void PropertyPanes::Impl::showBackColor() {
@@ -236,7 +236,7 @@ void PropertyPanes::Impl::showBackColor() {
     QPalette pal = c.PicBakColor->palette();
     pal.setColor(QPalette::Window, QColor::fromRgba(BackColorArgb(v)));
     c.PicBakColor->setPalette(pal);
-    c.TxtBakColor->setText(BackColorText(v));
+    c.TxtBakColor->fill(BackColorText(v));
 }
 
 void PropertyPanes::Impl::showGeometry(int kind, const IntRect& r) {
@@ -245,7 +245,7 @@ void PropertyPanes::Impl::showGeometry(int kind, const IntRect& r) {
     const auto& boxes = kind == KindImage ? c.ImgLoc : c.FontLoc;
     const int values[4] = {r.Left, r.Top, r.Width, r.Height};
     for (int i = 0; i < 4; ++i)
-        boxes[size_t(i)]->setText(QString::number(values[i]));
+        boxes[size_t(i)]->fill(QString::number(values[i]));
 }
 
 void PropertyPanes::Impl::fill(int kind, int index) {
@@ -259,16 +259,16 @@ void PropertyPanes::Impl::fill(int kind, int index) {
         const PropertyTarget t{index, 0};
         targets[KindTab] = t;
         c.PicTabIcon->setPixmap(QPixmap::fromImage(TabIconPreview(d, index, res, &cache)));
-        c.TxtTabName->setText(PropertyBoxText(d, t, PropertyText::TabName));
-        c.TxtTabPicture->setText(StoredFile(d, t, FileChoice::TabPicture));
+        c.TxtTabName->fill(PropertyBoxText(d, t, PropertyText::TabName));
+        c.TxtTabPicture->fill(StoredFile(d, t, FileChoice::TabPicture));
         setRow(c.CombTabPicAlign, t, PropertyCombo::TabPicAlign);
         break;
     }
     case KindImage: {
         const PropertyTarget t{st.CurrentTab, index};
         targets[KindImage] = t;
-        c.TxtImgName->setText(PropertyBoxText(d, t, PropertyText::ImgName));
-        c.TxtImgFile->setText(StoredFile(d, t, FileChoice::ImageFile));
+        c.TxtImgName->fill(PropertyBoxText(d, t, PropertyText::ImgName));
+        c.TxtImgFile->fill(StoredFile(d, t, FileChoice::ImageFile));
         if (const auto r = ObjectRect(d, KindImage, index))
             showGeometry(KindImage, *r);
         break;
@@ -277,11 +277,11 @@ void PropertyPanes::Impl::fill(int kind, int index) {
         const PropertyTarget t{st.CurrentTab, index};
         targets[KindText] = t;
         c.TxtWord->setTextQuietly(PropertyBoxText(d, t, PropertyText::Word));
-        c.TxtTextName->setText(PropertyBoxText(d, t, PropertyText::TextName));
+        c.TxtTextName->fill(PropertyBoxText(d, t, PropertyText::TextName));
         if (const auto r = ObjectRect(d, KindText, index))
             showGeometry(KindText, *r);
         if (index >= 0 && index <= MaxTexts) {
-            c.TxtFontName->setText(d.Texts[index].FontName.trimNull());
+            c.TxtFontName->fill(d.Texts[index].FontName.trimNull());
             c.LabFontColor->setText(FontColorText(d.Texts[index].FontColor));
         }
         setRow(c.CombAlign[0], t, PropertyCombo::AlignH);
@@ -299,7 +299,7 @@ void PropertyPanes::Impl::fill(int kind, int index) {
             {c.TxtWebsite, PropertyText::Website},     {c.TxtAddress, PropertyText::Address},
             {c.TxtPostCode, PropertyText::PostCode}};
         for (const auto& [box, which] : boxes)
-            box->setText(PropertyBoxText(d, t, which));
+            box->fill(PropertyBoxText(d, t, which));
         showBackPicture();
         c.PicUserIcon->setPixmap(QPixmap::fromImage(UserIconPreview(d, res, &cache)));
         break;
@@ -311,8 +311,8 @@ void PropertyPanes::Impl::fill(int kind, int index) {
         setRow(c.CmbAutoRepeat, t, PropertyCombo::AutoRepeat);
         setRow(c.CmbShowSpeed, t, PropertyCombo::ShowSpeed);
         setRow(c.CmbShowAsRun, t, PropertyCombo::ShowAsRun);
-        c.TxtKeepOnTime->setText(PropertyBoxText(d, t, PropertyText::KeepOnTime));
-        c.TxtBakMusic->setText(StoredFile(d, t, FileChoice::BackMusic));
+        c.TxtKeepOnTime->fill(PropertyBoxText(d, t, PropertyText::KeepOnTime));
+        c.TxtBakMusic->fill(StoredFile(d, t, FileChoice::BackMusic));
         showBackColor();
         showBackPicture();
         break;

@@ -286,7 +286,7 @@ TEST(PropsEdit, BoxTextsAndFontNameTrim) {
     Sandbox box;
     auto doc = box.newDocument();
     doc->Tabs[2].Name = "  Skills  ";
-    doc->Texts[1].Text = "  two\nlines   ";
+    doc->Texts[1].Text = "  two\r\nlines   ";
     doc->Texts[1].FontName = "  Arial ";
     doc->Header.KeepOnTime = 1234;
     const PropertyTarget t{2, 1};

@@ -213,10 +213,10 @@ TEST_F(PropsPanes, WordsCommitOnlyOnLeaving) {
     EXPECT_TRUE(doc->Dirty);
     EXPECT_EQ(doc->Texts[1].Text.text(), "Hello"); // Enter is a line break, not a commit
     leave();
-    EXPECT_EQ(doc->Texts[1].Text.text(), "Line one\r\nLine two");
+    EXPECT_EQ(doc->Texts[1].Text.text(), "Line one\nLine two");
     EXPECT_EQ(word->toPlainText(), "Line one\nLine two");
     const QByteArray file = saved();
-    EXPECT_EQ(file.mid(TextsAt + 36, 20), QByteArray("Line one\r\nLine two  "));
+    EXPECT_EQ(file.mid(TextsAt + 36, 20), QByteArray("Line one\nLine two   "));
 }
 
 TEST_F(PropsPanes, HoldingTimeKeepsItsValueOnANonNumber) {

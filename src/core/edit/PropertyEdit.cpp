@@ -43,14 +43,6 @@ std::optional<int32_t> ToInt32(double v) {
     return int32_t(r);
 }
 
-// Texts keep the Windows line break the player and older projects use.
-QString WindowsLineBreaks(const QString& text) {
-    QString s = text;
-    s.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    s.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
-    return s;
-}
-
 } // namespace
 
 PropertyTarget CurrentTarget(const EditorState& st) {
@@ -103,7 +95,8 @@ QString PropertyBoxText(const Document& doc, const PropertyTarget& t, PropertyTe
     case PropertyText::Word:
         if (!ValidText(t.slot))
             return QString();
-        return QString(doc.Texts[t.slot].Text.text()).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+        return QString(doc.Texts[t.slot].Text.text())
+            .replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     case PropertyText::KeepOnTime:
         return QString::number(doc.Header.KeepOnTime);
     }
@@ -158,7 +151,7 @@ TextCommit CommitPropertyText(Document& doc, const PropertyTarget& t, PropertyTe
     case PropertyText::Word:
         if (!ValidText(t.slot))
             return {};
-        changed = Store(doc.Texts[t.slot].Text, WindowsLineBreaks(text));
+        changed = Store(doc.Texts[t.slot].Text, text);
         break;
     case PropertyText::KeepOnTime: {
         c.refresh = false;

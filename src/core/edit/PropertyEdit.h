@@ -49,8 +49,8 @@ bool MarksDirtyOnChange(PropertyText box);
 bool CommitsOnEnter(PropertyText box);
 
 // What a box shows when its pane is filled: names and paths trimmed and cut at the first
-// NUL, the words with their trailing blanks removed and line breaks as "\n", the holding
-// time as a number.
+// NUL, the words with their trailing blanks removed (a Windows line break shows as one
+// break), the holding time as a number.
 QString PropertyBoxText(const Document& doc, const PropertyTarget& t, PropertyText box);
 
 struct TextCommit {
@@ -60,7 +60,7 @@ struct TextCommit {
 };
 
 // A box commits: its whole text goes into its field, cut to the field's width and padded
-// with blanks; line breaks in the words are stored as "\r\n". The holding time takes the text as a whole number and keeps its old value
+// with blanks. The holding time takes the text as a whole number and keeps its old value
 // when the text is not one. Dirty is set when the document's bytes changed.
 TextCommit CommitPropertyText(Document& doc, const PropertyTarget& t, PropertyText box,
                               const QString& text);

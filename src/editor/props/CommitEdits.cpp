@@ -13,6 +13,13 @@ CommitLineEdit::CommitLineEdit(const QString& name, QWidget* parent) : QLineEdit
     setObjectName(name);
 }
 
+void CommitLineEdit::fill(const QString& text) {
+    setText(text);
+    setCursorPosition(0);
+    if (isReadOnly())
+        setToolTip(text);
+}
+
 void CommitLineEdit::keyPressEvent(QKeyEvent* e) {
     if (commitOnEnter_ && (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)) {
         emit committed();

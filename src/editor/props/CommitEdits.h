@@ -13,6 +13,9 @@ class CommitLineEdit : public QLineEdit {
 public:
     explicit CommitLineEdit(const QString& name, QWidget* parent = nullptr);
     void setCommitOnEnter(bool on) { commitOnEnter_ = on; }
+    // Fills the box showing the start of its text; a read-only path box also carries the
+    // whole text as its tip, since a long path does not fit.
+    void fill(const QString& text);
 
 signals:
     void committed();
