@@ -101,20 +101,6 @@ TEST(PropsEdit, KeepOnTimeKeepsTheOldValueOnANonNumber) {
     }
 }
 
-TEST(PropsEdit, WhichBoxesMarkDirtyAndCommitOnEnter) {
-    const std::vector<PropertyText> dirtying = {PropertyText::FirstName, PropertyText::LastName,
-                                                PropertyText::Phone,     PropertyText::Email,
-                                                PropertyText::Website,   PropertyText::Address,
-                                                PropertyText::PostCode,  PropertyText::Word};
-    for (int b = 0; b <= int(PropertyText::KeepOnTime); ++b) {
-        const auto box = PropertyText(b);
-        EXPECT_EQ(MarksDirtyOnChange(box),
-                  std::find(dirtying.begin(), dirtying.end(), box) != dirtying.end())
-            << b;
-        EXPECT_EQ(CommitsOnEnter(box), box != PropertyText::Word) << b;
-    }
-}
-
 TEST(PropsEdit, LocationBoxesFallBackToTheRecordPerBox) {
     const IntRect record{10, 20, 30, 40};
     const struct {
@@ -162,26 +148,6 @@ TEST(PropsEdit, ComboRowsAndStoredValuesBothWays) {
     EXPECT_EQ(ComboRow(PropertyCombo::FontShadow, 1), 1);
     EXPECT_EQ(ComboRow(PropertyCombo::AutoRepeat, -1), -1);
     EXPECT_EQ(ComboRow(PropertyCombo::TextHint, 6), -1);
-}
-
-TEST(PropsEdit, ComboTextsAndWhichRedraw) {
-    EXPECT_EQ(ComboRows(PropertyCombo::AlignH),
-              QStringList({"0 - Left Just", "1 - Center ", "2 - Right Just"}));
-    EXPECT_EQ(ComboRows(PropertyCombo::AlignV),
-              QStringList({"0 - Top Just", "1 - Center", "2 - Bottom Just"}));
-    EXPECT_EQ(ComboRows(PropertyCombo::ShowSpeed),
-              QStringList({"Very Fast", "Fast", "Medium", "Slow", "Very Slow"}));
-    EXPECT_EQ(ComboRows(PropertyCombo::TabPicAlign),
-              QStringList({"Fitness", "Fitness & Center", "Center", "Original"}));
-    EXPECT_EQ(ComboRows(PropertyCombo::TextHint).join(','),
-              "SystemDefault,SingleBitPerPixelGridFit,SingleBitPerPixel,AntiAliasGridFit,"
-              "AntiAlias,ClearTypeGridFit");
-    for (auto c : {PropertyCombo::MusicVol, PropertyCombo::AutoRepeat, PropertyCombo::ShowSpeed,
-                   PropertyCombo::ShowAsRun})
-        EXPECT_FALSE(ComboRefreshes(c));
-    for (auto c : {PropertyCombo::TabPicAlign, PropertyCombo::AlignH, PropertyCombo::AlignV,
-                   PropertyCombo::FontShadow, PropertyCombo::TextHint})
-        EXPECT_TRUE(ComboRefreshes(c));
 }
 
 TEST(PropsEdit, ComboCommitsWriteTheirField) {

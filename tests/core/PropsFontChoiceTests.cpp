@@ -14,7 +14,6 @@ TEST(PropsFontChoice, StyleBitsToControlsAndBack) {
         {3, 3, false, false}, {7, 3, true, false},  {8, 0, false, true},
         {13, 1, true, true},  {14, 2, true, true},  {15, 3, true, true},
     };
-    ASSERT_EQ(FontStyleRows(), QStringList({"Regular", "Bold", "Italic", "BoldItalic"}));
     for (const auto& r : rows) {
         SCOPED_TRACE(r.style);
         EXPECT_EQ(StyleRow(r.style), r.row);
@@ -26,9 +25,6 @@ TEST(PropsFontChoice, StyleBitsToControlsAndBack) {
 
 TEST(PropsFontChoice, SizesAndExactSearch) {
     const QStringList sizes = FontSizeRows();
-    EXPECT_EQ(sizes.size(), 18);
-    EXPECT_EQ(sizes.first(), "8");
-    EXPECT_EQ(sizes.last(), "72");
     EXPECT_EQ(FindExactRow(sizes, "13"), -1);
     EXPECT_EQ(FindExactRow(sizes, "14"), 5);
     EXPECT_EQ(FindExactRow({"Arial", "arial black", "ARIAL"}, "arial"), 0);

@@ -1,11 +1,9 @@
-#include "ScriptedPrompter.h"
 
 #include "edit/SettingsForm.h"
 
 #include <gtest/gtest.h>
 
 using namespace zentor;
-using namespace zentor::test;
 
 TEST(PropsSettings, LeadingNumberReadsTheFrontOfTheText) {
     const struct {
@@ -110,17 +108,4 @@ TEST(PropsSettings, OkWithoutChangesKeepsTheScales) {
     const ScriptHeader before = h;
     ApplySettings(h, IniCBFrame(h));
     EXPECT_EQ(h, before);
-}
-
-TEST(PropsSettings, MusicBrowseOnlyTouchesTheForm) {
-    ScriptedPrompter p;
-    p.expectFile(false, "Choose Background Music", "*.mp3|*.mp3", "/a/b.mp3")
-        .expectFile(false, "Choose Background Music", "*.mp3|*.mp3", "");
-    SettingsForm f;
-    f.music = "None";
-    ChooseSettingsMusic(p, f);
-    EXPECT_EQ(f.music, "/a/b.mp3");
-    ChooseSettingsMusic(p, f); // cancelled
-    EXPECT_EQ(f.music, "/a/b.mp3");
-    EXPECT_TRUE(p.failures().isEmpty());
 }

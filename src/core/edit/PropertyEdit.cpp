@@ -281,9 +281,9 @@ bool ComboRefreshes(PropertyCombo combo) {
 
 namespace {
 
-// The document field a combo writes for `t`; null when the target is no slot.
-template <typename F>
-auto WithComboField(Document& doc, const PropertyTarget& t, PropertyCombo combo, F&& f) {
+// Runs `f` on the document field a combo writes for `t`; false when the target is no slot.
+template <typename Doc, typename F>
+bool WithComboField(Doc& doc, const PropertyTarget& t, PropertyCombo combo, F&& f) {
     switch (combo) {
     case PropertyCombo::TabPicAlign:
         return ValidTab(t.tab) ? f(doc.Tabs[t.tab].Picture.PicAlign) : false;
@@ -311,8 +311,7 @@ auto WithComboField(Document& doc, const PropertyTarget& t, PropertyCombo combo,
 
 int ComboRowFromDocument(const Document& doc, const PropertyTarget& t, PropertyCombo combo) {
     int row = -1;
-    // The visitor only reads here.
-    WithComboField(const_cast<Document&>(doc), t, combo, [&](const auto& field) {
+    WithComboField(doc, t, combo, [&](const auto& field) {
         row = ComboRow(combo, int32_t(field));
         return true;
     });
@@ -356,8 +355,8 @@ FileChoiceSpec FileChoiceFor(FileChoice choice) {
 
 namespace {
 
-template <typename F>
-bool WithFileField(Document& doc, const PropertyTarget& t, FileChoice choice, F&& f) {
+template <typename Doc, typename F>
+bool WithFileField(Doc& doc, const PropertyTarget& t, FileChoice choice, F&& f) {
     switch (choice) {
     case FileChoice::UserIcon:
         return f(doc.Profile.UserIcon);
@@ -395,7 +394,7 @@ QString ChooseAndStoreFile(Prompter& prompter, Document& doc, const PropertyTarg
 
 QString StoredFile(const Document& doc, const PropertyTarget& t, FileChoice choice) {
     QString s;
-    WithFileField(const_cast<Document&>(doc), t, choice, [&](const auto& field) {
+    WithFileField(doc, t, choice, [&](const auto& field) {
         s = field.trimNull();
         return true;
     });
