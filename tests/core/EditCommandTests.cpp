@@ -158,8 +158,9 @@ TEST(EditCommands, SaveAddsTheExtensionAndAsksBeforeOverwriting) {
         EditorFixture f;
         f.doc->Dirty = true;
         const QString target = f.box.path(c.written);
-        if (c.exists)
+        if (c.exists) {
             ASSERT_TRUE(WriteAll(target, "old"));
+        }
         f.prompter.expectFile(
             true, c.command == CmdSave ? "Save QDV Script File" : "Save as QDV Script File", Filter,
             c.typed.isEmpty() ? QString() : f.box.path(c.typed));

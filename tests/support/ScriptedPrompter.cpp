@@ -2,9 +2,22 @@
 
 namespace zentor::test {
 
+namespace {
+ScriptedPrompter::Step make(ScriptedPrompter::Step::Kind kind, const QString& title,
+                            const QString& text,
+                            Prompter::Answer answer = Prompter::Answer::Cancel) {
+    ScriptedPrompter::Step s;
+    s.kind = kind;
+    s.title = title;
+    s.text = text;
+    s.answer = answer;
+    return s;
+}
+} // namespace
+
 ScriptedPrompter& ScriptedPrompter::expectQuestion(const QString& title, const QString& text,
                                                    Answer answer) {
-    Step s{Step::Ask, title, text, answer};
+    Step s = make(Step::Ask, title, text, answer);
     s.buttons = Buttons::YesNo;
     s.icon = Icon::Question;
     s.defaultAnswer = Answer::No;
@@ -15,7 +28,7 @@ ScriptedPrompter& ScriptedPrompter::expectQuestion(const QString& title, const Q
 
 ScriptedPrompter& ScriptedPrompter::expectYesNoCancel(const QString& title, const QString& text,
                                                       Answer answer) {
-    Step s{Step::Ask, title, text, answer};
+    Step s = make(Step::Ask, title, text, answer);
     s.buttons = Buttons::YesNoCancel;
     s.icon = Icon::Question;
     s.defaultAnswer = Answer::No;
@@ -25,7 +38,7 @@ ScriptedPrompter& ScriptedPrompter::expectYesNoCancel(const QString& title, cons
 }
 
 ScriptedPrompter& ScriptedPrompter::expectWarning(const QString& title, const QString& text) {
-    Step s{Step::Ask, title, text, Answer::Ok};
+    Step s = make(Step::Ask, title, text, Answer::Ok);
     s.buttons = Buttons::Ok;
     s.icon = Icon::Exclamation;
     s.defaultAnswer = Answer::Ok;
@@ -36,13 +49,13 @@ ScriptedPrompter& ScriptedPrompter::expectWarning(const QString& title, const QS
 
 ScriptedPrompter& ScriptedPrompter::expectAsk(const QString& title, const QString& text,
                                               Answer answer) {
-    steps_.append(Step{Step::Ask, title, text, answer});
+    steps_.append(make(Step::Ask, title, text, answer));
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectFile(bool save, const QString& title,
                                                const QString& filter, const QString& result) {
-    Step s{Step::File, title, filter};
+    Step s = make(Step::File, title, filter);
     s.path = result;
     s.save = save;
     steps_.append(s);
@@ -50,7 +63,7 @@ ScriptedPrompter& ScriptedPrompter::expectFile(bool save, const QString& title,
 }
 
 ScriptedPrompter& ScriptedPrompter::expectColor(uint32_t result) {
-    Step s{Step::Color, QString(), QString()};
+    Step s = make(Step::Color, QString(), QString());
     s.color = result;
     steps_.append(s);
     return *this;

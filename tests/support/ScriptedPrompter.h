@@ -15,7 +15,7 @@ namespace zentor::test {
 class ScriptedPrompter : public Prompter {
 public:
     struct Step {
-        enum Kind { Ask, File, Color } kind;
+        enum Kind { Ask, File, Color } kind = Ask;
         QString title;
         QString text; // the message, or the file dialog's filter
         Answer answer = Answer::Cancel;
