@@ -212,8 +212,8 @@ TEST(PropsEdit, FileChoicesUseTheirTitlesAndStoreThePathAsChosen) {
     };
     for (const auto& r : rows) {
         SCOPED_TRACE(r.title);
-        const FileChoiceSpec spec = FileChoiceFor(r.choice);
-        EXPECT_EQ(spec.refresh, r.refresh);
+        const FileChoiceDialog dialog = FileChoiceFor(r.choice);
+        EXPECT_EQ(dialog.refresh, r.refresh);
         const QByteArray before = r.field(*doc);
         ScriptedPrompter p;
         p.expectFile(false, r.title, r.filter, QString())

@@ -331,7 +331,7 @@ bool CommitCombo(Document& doc, const PropertyTarget& t, PropertyCombo combo, in
     return stored;
 }
 
-FileChoiceSpec FileChoiceFor(FileChoice choice) {
+FileChoiceDialog FileChoiceFor(FileChoice choice) {
     const QString pictures = QStringLiteral("*.jpg;*.bmp;*.png|*.jpg;*.bmp;*.png|*.*|*.*");
     const QString withIcons =
         QStringLiteral("*.jpg;*.bmp;*.ico;*.png|*.jpg;*.bmp;*.ico;*.png|*.*|*.*");
@@ -378,8 +378,8 @@ bool WithFileField(Doc& doc, const PropertyTarget& t, FileChoice choice, F&& f) 
 
 QString ChooseAndStoreFile(Prompter& prompter, Document& doc, const PropertyTarget& t,
                            FileChoice choice) {
-    const FileChoiceSpec spec = FileChoiceFor(choice);
-    const QString path = prompter.chooseFile(false, spec.title, spec.filter);
+    const FileChoiceDialog dialog = FileChoiceFor(choice);
+    const QString path = prompter.chooseFile(false, dialog.title, dialog.filter);
     if (path.isEmpty())
         return QString();
     bool changed = false;

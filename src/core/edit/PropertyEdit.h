@@ -108,12 +108,12 @@ bool CommitCombo(Document& doc, const PropertyTarget& t, PropertyCombo combo, in
 // The picture and music choices of the panel.
 enum class FileChoice { UserIcon, TabIcon, TabPicture, ImageFile, BackPicture, BackMusic };
 
-struct FileChoiceSpec {
+struct FileChoiceDialog {
     QString title;
     QString filter;
     bool refresh; // the page is redrawn after a choice; the others only store and show
 };
-FileChoiceSpec FileChoiceFor(FileChoice choice);
+FileChoiceDialog FileChoiceFor(FileChoice choice);
 
 // Opens the file dialog for `choice` and stores a chosen path as it is. Returns the path,
 // or an empty string when the dialog was cancelled (then nothing changes).
