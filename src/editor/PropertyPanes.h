@@ -24,6 +24,10 @@ public:
                   const ProcessContext& ctx, QObject* parent = nullptr);
     ~PropertyPanes() override;
 
+    // The window that shows the tab strip: renaming a page renames its strip tab there. A
+    // parent that is an EditorView (the main window) is taken as the view at construction.
+    void setView(EditorView* view);
+
     // Fills pane `kind` from the document (0 tab, 1 image, 2 text, 3 profile, 4 slide show).
     void loadObject(int kind, int index);
     // Shows a selected object's geometry in its pane's four number boxes.

@@ -56,24 +56,6 @@ TEST(EditObjects, ObjectListRowsAndMap) {
     EXPECT_EQ(BuildObjectList(*d, 8).map[0].kind, KindSlideShow);
 }
 
-TEST(EditObjects, ShowingAPageWritesBackWhatItDrew) {
-    Sandbox box;
-    auto d = box.newDocument();
-    PutImage(*d, 1, 1, {0, 0, 10, 10}, "a");
-    d->Images[1].PicAlign = 2;
-    d->Images[1].Reserved = -1;
-    d->Images[1].FileName = "  pic.png";
-    PutImage(*d, 2, 2, {0, 0, 10, 10}, "other page");
-    d->Images[2].PicAlign = 2;
-    ApplyPageLoadWriteBacks(*d, 1, 0);
-    EXPECT_EQ(d->Images[1].PicAlign, 4);
-    EXPECT_EQ(d->Images[1].Reserved, 0);
-    EXPECT_EQ(d->Images[1].FileName.raw(), QStringLiteral("pic.png") + QString(249, ' '));
-    EXPECT_EQ(d->Images[2].PicAlign, 2);
-    // A never-assigned field keeps its NULs through the trim.
-    EXPECT_TRUE(d->Tabs[1].Picture.FileName.isNul());
-}
-
 struct HitCase {
     const char* what;
     double x, y;

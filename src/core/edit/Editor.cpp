@@ -46,7 +46,6 @@ bool Editor::queryUnload() {
 void Editor::fillPage(int tab) {
     if (tab == ProfileTab)
         st_.IconRects = IconRingRects(doc_.Header.FrameWidth, doc_.Header.FrameHeight);
-    ApplyPageLoadWriteBacks(doc_, tab, st_.HoverIcon);
     ObjectList list = BuildObjectList(doc_, tab);
     st_.Rows = list.rows;
     st_.ObjectMap = list.map;

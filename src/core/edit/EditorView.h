@@ -24,7 +24,9 @@ public:
     virtual ~EditorView() = default;
 
     // Paint page `tab` into the workspace (cleared to white first) from the document, with
-    // `hoverIcon` (0..8) highlighted as the profile page's caption; then show it.
+    // `hoverIcon` (0..8) highlighted as the profile page's caption; then show it. Painting
+    // stores back what drawing a page changes in the document (trimmed paths, an image's
+    // mode 4, a tab picture's laid-out box).
     virtual void paintWorkspace(int tab, int hoverIcon) = 0;
 
     // The object list: replace every row, or select row `row` (-1 selects nothing). The

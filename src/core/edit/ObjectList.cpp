@@ -43,40 +43,6 @@ ObjectList BuildObjectList(const Document& doc, int tab) {
     return list;
 }
 
-void ApplyPageLoadWriteBacks(Document& doc, int tab, int hoverIcon) {
-    if (tab >= 1 && tab <= 7) {
-        ImageElement& pic = doc.Tabs[tab].Picture;
-        pic.FileName = pic.FileName.trimmed();
-        for (int i = 1; i <= MaxImages; ++i) {
-            ImageElement& e = doc.Images[i];
-            if (e.TabNo != tab)
-                continue;
-            // Drawing an object picture always marks it as drawn stretched to its box.
-            e.Reserved = 0;
-            e.FileName = e.FileName.trimmed();
-            e.PicAlign = 4;
-        }
-        for (int i = 1; i <= MaxTexts; ++i)
-            if (doc.Texts[i].TabNo == tab)
-                doc.Texts[i].FontName = doc.Texts[i].FontName.trimmed();
-        return;
-    }
-    if (tab != SlideShowTab && tab != ProfileTab)
-        return;
-    doc.Header.BackPicture = doc.Header.BackPicture.trimNull();
-    if (tab == SlideShowTab)
-        return;
-    for (int i = 1; i <= MaxTab; ++i)
-        doc.Tabs[i].Icon = doc.Tabs[i].Icon.trimNull();
-    if (hoverIcon >= 1 && hoverIcon <= MaxTab) {
-        doc.Tabs[hoverIcon].Name = doc.Tabs[hoverIcon].Name.trimmed();
-    } else {
-        doc.Profile.FirstName = doc.Profile.FirstName.trimmed();
-        doc.Profile.LastName = doc.Profile.LastName.trimmed();
-    }
-    doc.Profile.UserIcon = doc.Profile.UserIcon.trimNull();
-}
-
 int FindObjectRow(const std::array<ObjectRef, ObjectMapRows>& map, ObjectRef ref) {
     for (int r = 1; r < ObjectMapRows; ++r)
         if (map[r] == ref)

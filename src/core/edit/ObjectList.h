@@ -39,11 +39,6 @@ struct ObjectList {
 // slot order ("Image - " / "Text - " + 32-character name). Any other tab gives no rows.
 ObjectList BuildObjectList(const Document& doc, int tab);
 
-// The document edits that showing a page makes: trimmed paths and names stored back, and
-// every image drawn on the page marked as drawn by mode 4 (PicAlign 4, Reserved 0). The
-// painter itself only reads the document; call this first.
-void ApplyPageLoadWriteBacks(Document& doc, int tab, int hoverIcon);
-
 // First row r in 1..128 of `map` equal to `ref`; -1 when none.
 int FindObjectRow(const std::array<ObjectRef, ObjectMapRows>& map, ObjectRef ref);
 

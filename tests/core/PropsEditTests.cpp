@@ -1,0 +1,265 @@
+#include "ScriptedPrompter.h"
+#include "TestSupport.h"
+
+#include "edit/PropertyEdit.h"
+
+#include <gtest/gtest.h>
+
+using namespace zentor;
+using namespace zentor::test;
+
+namespace {
+
+// The raw bytes of a field, independent of how FixedString decodes them.
+template <int N> QByteArray Bytes(const FixedString<N>& f) {
+    return QByteArray(f.data(), N);
+}
+
+QByteArray Padded(const QByteArray& text, int n) {
+    return text.left(n) + QByteArray(std::max<qsizetype>(0, n - text.size()), ' ');
+}
+
+} // namespace
+
+TEST(PropsEdit, TextCommitsCutAndPadToTheirField) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    doc->Images[3].TabNo = 2;
+    doc->Texts[5].TabNo = 2;
+    const PropertyTarget t{2, 3};
+    const PropertyTarget tt{2, 5};
+    const QByteArray longText(300, 'x');
+    struct Row {
+        PropertyText box;
+        PropertyTarget target;
+        std::function<QByteArray(const Document&)> field;
+        int width;
+        bool renames;
+    };
+    const std::vector<Row> rows = {
+        {PropertyText::FirstName, t, [](auto& d) { return Bytes(d.Profile.FirstName); }, 32, false},
+        {PropertyText::LastName, t, [](auto& d) { return Bytes(d.Profile.LastName); }, 32, false},
+        {PropertyText::Phone, t, [](auto& d) { return Bytes(d.Profile.Phone); }, 16, false},
+        {PropertyText::Email, t, [](auto& d) { return Bytes(d.Profile.Email); }, 64, false},
+        {PropertyText::Website, t, [](auto& d) { return Bytes(d.Profile.Website); }, 128, false},
+        {PropertyText::Address, t, [](auto& d) { return Bytes(d.Profile.Address); }, 256, false},
+        {PropertyText::PostCode, t, [](auto& d) { return Bytes(d.Profile.PostCode); }, 16, false},
+        {PropertyText::TabName, t, [](auto& d) { return Bytes(d.Tabs[2].Name); }, 32, true},
+        {PropertyText::ImgName, t, [](auto& d) { return Bytes(d.Images[3].Name); }, 32, false},
+        {PropertyText::TextName, tt, [](auto& d) { return Bytes(d.Texts[5].Name); }, 32, false},
+        {PropertyText::Word, tt, [](auto& d) { return Bytes(d.Texts[5].Text); }, 4096, false},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(int(r.box));
+        for (const QByteArray& text : {QByteArray("Ann"), longText, QByteArray()}) {
+            doc->Dirty = false;
+            const TextCommit c =
+                CommitPropertyText(*doc, r.target, r.box, QString::fromLatin1(text));
+            EXPECT_TRUE(c.stored);
+            EXPECT_TRUE(c.refresh);
+            EXPECT_EQ(c.renameStrip, r.renames);
+            EXPECT_EQ(r.field(*doc), Padded(text, r.width));
+            EXPECT_TRUE(doc->Dirty);
+        }
+        // Committing what is already stored changes nothing, so it leaves the flag alone.
+        doc->Dirty = false;
+        CommitPropertyText(*doc, r.target, r.box, QString());
+        EXPECT_FALSE(doc->Dirty);
+    }
+    // The other objects were not touched.
+    EXPECT_TRUE(doc->Images[4].Name.isNul());
+    EXPECT_TRUE(doc->Texts[4].Text.isNul());
+}
+
+TEST(PropsEdit, KeepOnTimeKeepsTheOldValueOnANonNumber) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    const struct {
+        const char* text;
+        int32_t expected;
+        bool stored;
+    } rows[] = {
+        {"5000", 5000, true},
+        {" 42 ", 42, true},
+        {"abc", 42, false},
+        {"", 42, false},
+        {"12.5", 12, true},
+        {"13.5", 14, true},
+        {"-3", -3, true},
+        {"1e3", -3, false},
+        {"99999999999", -3, false},
+        {"2147483647", 2147483647, true},
+        {"7 000", 2147483647, false},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.text);
+        const TextCommit c =
+            CommitPropertyText(*doc, {}, PropertyText::KeepOnTime, QString::fromLatin1(r.text));
+        EXPECT_EQ(c.stored, r.stored);
+        EXPECT_FALSE(c.refresh);
+        EXPECT_EQ(doc->Header.KeepOnTime, r.expected);
+    }
+}
+
+TEST(PropsEdit, LocationBoxesFallBackToTheRecordPerBox) {
+    const IntRect record{10, 20, 30, 40};
+    const struct {
+        std::array<QString, 4> boxes;
+        IntRect expected;
+    } rows[] = {
+        {{"1", "2", "3", "4"}, {1, 2, 3, 4}},
+        {{"x", "2", "", "4.5"}, {10, 2, 30, 4}},
+        {{" 7 ", "-5", "3.5", "abc"}, {7, -5, 4, 40}},
+    };
+    for (const auto& r : rows)
+        EXPECT_EQ(LocationFromBoxes(r.boxes, record), r.expected);
+}
+
+TEST(PropsEdit, ComboRowsAndStoredValuesBothWays) {
+    const struct {
+        PropertyCombo combo;
+        int rows;
+        std::vector<int32_t> values; // stored value of each row, in order
+    } table[] = {
+        {PropertyCombo::MusicVol, 11, {0, 100, 200, 300, 400, 500, 600, 700, 800, 900, 1000}},
+        {PropertyCombo::ShowSpeed, 5, {0, 10, 20, 30, 40}},
+        {PropertyCombo::AutoRepeat, 2, {0, 1}},
+        {PropertyCombo::ShowAsRun, 2, {0, 1}},
+        {PropertyCombo::FontShadow, 2, {0, -1}},
+        {PropertyCombo::TabPicAlign, 4, {0, 1, 2, 3}},
+        {PropertyCombo::AlignH, 3, {0, 1, 2}},
+        {PropertyCombo::AlignV, 3, {0, 1, 2}},
+        {PropertyCombo::TextHint, 6, {0, 1, 2, 3, 4, 5}},
+    };
+    for (const auto& r : table) {
+        SCOPED_TRACE(int(r.combo));
+        ASSERT_EQ(ComboRows(r.combo).size(), r.rows);
+        for (int row = 0; row < r.rows; ++row) {
+            EXPECT_EQ(ComboValue(r.combo, row), r.values[size_t(row)]);
+            EXPECT_EQ(ComboRow(r.combo, r.values[size_t(row)]), row);
+        }
+    }
+    // Values between rows and outside the lists.
+    EXPECT_EQ(ComboRow(PropertyCombo::MusicVol, 550), 6); // halves go to the even row
+    EXPECT_EQ(ComboRow(PropertyCombo::MusicVol, 450), 4);
+    EXPECT_EQ(ComboRow(PropertyCombo::MusicVol, 1100), -1);
+    EXPECT_EQ(ComboRow(PropertyCombo::ShowSpeed, 24), 2);
+    EXPECT_EQ(ComboRow(PropertyCombo::ShowSpeed, -10), -1);
+    EXPECT_EQ(ComboRow(PropertyCombo::FontShadow, 1), 1);
+    EXPECT_EQ(ComboRow(PropertyCombo::AutoRepeat, -1), -1);
+    EXPECT_EQ(ComboRow(PropertyCombo::TextHint, 6), -1);
+}
+
+TEST(PropsEdit, ComboCommitsWriteTheirField) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    const PropertyTarget t{4, 7};
+    const struct {
+        PropertyCombo combo;
+        int row;
+        std::function<int32_t(const Document&)> field;
+        int32_t expected;
+    } rows[] = {
+        {PropertyCombo::MusicVol, 3, [](auto& d) { return d.Header.MusicVolume; }, 300},
+        {PropertyCombo::ShowSpeed, 4, [](auto& d) { return d.Header.ShowSpeed; }, 40},
+        {PropertyCombo::AutoRepeat, 0, [](auto& d) { return d.Header.AutoRepeat; }, 0},
+        {PropertyCombo::ShowAsRun, 0, [](auto& d) { return d.Header.ShowAsRun; }, 0},
+        {PropertyCombo::TabPicAlign, 3, [](auto& d) { return d.Tabs[4].Picture.PicAlign; }, 3},
+        {PropertyCombo::AlignH, 2, [](auto& d) { return d.Texts[7].Align; }, 2},
+        {PropertyCombo::AlignV, 1, [](auto& d) { return d.Texts[7].LineAlign; }, 1},
+        {PropertyCombo::FontShadow, 1, [](auto& d) { return int32_t(d.Texts[7].FontShadow); }, -1},
+        {PropertyCombo::TextHint, 5, [](auto& d) { return d.Texts[7].TextHint; }, 5},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(int(r.combo));
+        doc->Dirty = false;
+        EXPECT_TRUE(CommitCombo(*doc, t, r.combo, r.row));
+        EXPECT_EQ(r.field(*doc), r.expected);
+        EXPECT_TRUE(doc->Dirty);
+        EXPECT_EQ(ComboRowFromDocument(*doc, t, r.combo), r.row);
+        // No row selected stores nothing.
+        EXPECT_FALSE(CommitCombo(*doc, t, r.combo, -1));
+        EXPECT_EQ(r.field(*doc), r.expected);
+    }
+    EXPECT_FALSE(CommitCombo(*doc, {4, 200}, PropertyCombo::AlignH, 1));
+}
+
+TEST(PropsEdit, FileChoicesUseTheirTitlesAndStoreThePathAsChosen) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    const PropertyTarget t{3, 2};
+    const QString pics = "*.jpg;*.bmp;*.png|*.jpg;*.bmp;*.png|*.*|*.*";
+    const QString icoPics = "*.jpg;*.bmp;*.ico;*.png|*.jpg;*.bmp;*.ico;*.png|*.*|*.*";
+    const struct {
+        FileChoice choice;
+        const char* title;
+        QString filter;
+        bool refresh;
+        std::function<QByteArray(const Document&)> field;
+    } rows[] = {
+        {FileChoice::UserIcon, "Choose user icon file", pics, true,
+         [](auto& d) { return Bytes(d.Profile.UserIcon); }},
+        {FileChoice::TabIcon, "Choose tab icon file", "*.ico;*.png|*.ico;*.png|*.*|*.*", false,
+         [](auto& d) { return Bytes(d.Tabs[3].Icon); }},
+        {FileChoice::TabPicture, "Choose picture file", icoPics, true,
+         [](auto& d) { return Bytes(d.Tabs[3].Picture.FileName); }},
+        {FileChoice::ImageFile, "Choose image file", pics, true,
+         [](auto& d) { return Bytes(d.Images[2].FileName); }},
+        {FileChoice::BackPicture, "Choose Background picture file", icoPics, true,
+         [](auto& d) { return Bytes(d.Header.BackPicture); }},
+        {FileChoice::BackMusic, "Choose Background Music", "*.mp3|*.mp3", false,
+         [](auto& d) { return Bytes(d.Header.BackMusic); }},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.title);
+        const FileChoiceDialog dialog = FileChoiceFor(r.choice);
+        EXPECT_EQ(dialog.refresh, r.refresh);
+        const QByteArray before = r.field(*doc);
+        ScriptedPrompter p;
+        p.expectFile(false, r.title, r.filter, QString())
+            .expectFile(false, r.title, r.filter, "/no/such/file.png");
+        doc->Dirty = false;
+        EXPECT_EQ(ChooseAndStoreFile(p, *doc, t, r.choice), QString());
+        EXPECT_EQ(r.field(*doc), before); // cancel changes nothing
+        EXPECT_FALSE(doc->Dirty);
+        EXPECT_EQ(ChooseAndStoreFile(p, *doc, t, r.choice), "/no/such/file.png");
+        EXPECT_EQ(r.field(*doc), Padded("/no/such/file.png", 256));
+        EXPECT_EQ(StoredFile(*doc, t, r.choice), "/no/such/file.png");
+        EXPECT_TRUE(doc->Dirty);
+        EXPECT_TRUE(p.failures().isEmpty()) << p.failures().join('\n').toStdString();
+    }
+}
+
+TEST(PropsEdit, BackColourStoresTheDialogAnswerEvenOnCancel) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    ScriptedPrompter p;
+    p.expectColor(0x000000FF).expectColor(0);
+    EXPECT_EQ(ChooseAndStoreBackColor(p, *doc), 0x000000FF);
+    EXPECT_EQ(doc->Header.BackColor, 0x000000FF);
+    EXPECT_EQ(BackColorText(doc->Header.BackColor), "     &H000000FF");
+    doc->Dirty = false;
+    EXPECT_EQ(ChooseAndStoreBackColor(p, *doc), 0); // cancelled: black
+    EXPECT_EQ(doc->Header.BackColor, 0);
+    EXPECT_TRUE(doc->Dirty);
+    EXPECT_EQ(BackColorText(0x00ABCDEF), "     &H00ABCDEF");
+    EXPECT_EQ(FontColorText(-1), "&HFFFFFFFF");
+    EXPECT_EQ(FontColorText(0xFF), "&HFF");
+    EXPECT_TRUE(p.failures().isEmpty());
+}
+
+TEST(PropsEdit, BoxTextsAndFontNameTrim) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    doc->Tabs[2].Name = "  Skills  ";
+    doc->Texts[1].Text = "  two\r\nlines   ";
+    doc->Texts[1].FontName = "  Arial ";
+    doc->Header.KeepOnTime = 1234;
+    const PropertyTarget t{2, 1};
+    EXPECT_EQ(PropertyBoxText(*doc, t, PropertyText::TabName), "Skills");
+    EXPECT_EQ(PropertyBoxText(*doc, t, PropertyText::Word), "  two\nlines");
+    EXPECT_EQ(PropertyBoxText(*doc, t, PropertyText::KeepOnTime), "1234");
+    EXPECT_EQ(PropertyBoxText(*doc, t, PropertyText::Phone), ""); // never assigned: NULs
+    EXPECT_EQ(TrimStoredFontName(*doc, t), "Arial");
+    EXPECT_EQ(Bytes(doc->Texts[1].FontName), Padded("Arial", 31));
+}

@@ -1,0 +1,217 @@
+#include "PropsFakeView.h"
+#include "ScriptedPrompter.h"
+#include "TestSupport.h"
+
+#include "edit/Editor.h"
+#include "editor/FrmTextColor.h"
+#include "editor/PropertyPanes.h"
+#include "io/RecordCodec.h"
+#include "render/TextDraw.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTimer>
+
+using namespace zentor;
+using namespace zentor::test;
+
+namespace {
+
+template <typename T> T* Find(QWidget& w, const char* name) {
+    T* c = w.findChild<T*>(QLatin1String(name));
+    EXPECT_NE(c, nullptr) << name;
+    return c;
+}
+
+// A family the text painter accepts, so that previews draw something.
+QString DrawableFamily() {
+    for (const QString& f : QFontDatabase::families())
+        if (FontFamilyAvailable(f))
+            return f;
+    return QString();
+}
+
+// Pixels of the preview that are neither the background nor near it.
+int InkPixels(const QImage& img) {
+    const QRgb bg = img.pixel(0, 0);
+    int n = 0;
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x)
+            n += img.pixel(x, y) != bg;
+    return n;
+}
+
+struct TextDoc {
+    Sandbox box;
+    std::unique_ptr<Document> doc = box.newDocument();
+    TextElement& t = doc->Texts[1];
+    TextDoc() {
+        t = doc->Texts[0];
+        t.TabNo = 1;
+        t.FontName = DrawableFamily();
+        t.FontSize = 24;
+        t.FontStyle = 0;
+        t.FontColor = int32_t(0xFFFF0000u);
+    }
+};
+
+void Choose(QComboBox* c, int row) {
+    c->setCurrentIndex(row);
+    emit c->activated(row);
+}
+
+} // namespace
+
+TEST(FrmTextColor, ListsTheInstalledFamiliesInTheirOwnOrder) {
+    TextDoc d;
+    FrmTextColor dlg(*d.doc, 1);
+    auto* fonts = Find<QComboBox>(dlg, "CmbFont");
+    QStringList shown;
+    for (int i = 0; i < fonts->count(); ++i)
+        shown << fonts->itemText(i);
+    EXPECT_EQ(shown, QFontDatabase::families());
+    EXPECT_EQ(fonts->currentText(), DrawableFamily());
+    auto* colors = Find<QComboBox>(dlg, "CmbColor");
+    ASSERT_EQ(colors->count(), 146);
+    EXPECT_EQ(colors->itemText(0), "AliceBlue");
+    EXPECT_EQ(colors->itemText(22), "DarkBrown");
+    EXPECT_EQ(colors->itemText(145), "YellowGreen");
+    EXPECT_EQ(Find<QComboBox>(dlg, "CmbSize")->count(), 18);
+}
+
+TEST(FrmTextColor, OpensOnTheTextsStyleSizeAndColour) {
+    const struct {
+        int32_t style, size;
+        uint32_t color;
+        const char* styleRow;
+        bool underline, strikeout;
+        int sizeRow;
+        const char* colorName; // empty: no colour row
+    } rows[] = {
+        {7, 13, 0xFF00FFFFu, "BoldItalic", true, false, -1, "Aqua"},
+        {8, 14, 0xFFFF00FFu, "Regular", false, true, 5, "Fuchsia"},
+        {2, 72, 0x80FF0000u, "Italic", false, false, 17, ""},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.style);
+        TextDoc d;
+        d.t.FontStyle = r.style;
+        d.t.FontSize = r.size;
+        d.t.FontColor = int32_t(r.color);
+        FrmTextColor dlg(*d.doc, 1);
+        EXPECT_EQ(Find<QComboBox>(dlg, "CmbStyle")->currentText(), r.styleRow);
+        EXPECT_EQ(Find<QCheckBox>(dlg, "ChkUnderline")->isChecked(), r.underline);
+        EXPECT_EQ(Find<QCheckBox>(dlg, "ChkStrikeout")->isChecked(), r.strikeout);
+        auto* size = Find<QComboBox>(dlg, "CmbSize");
+        EXPECT_EQ(size->currentText(), QString::number(r.size));
+        EXPECT_EQ(size->currentIndex(), r.sizeRow);
+        auto* color = Find<QComboBox>(dlg, "CmbColor");
+        EXPECT_EQ(color->currentIndex() >= 0 ? color->currentText() : QString(), r.colorName);
+        // OK without touching anything keeps what the text had.
+        Find<QPushButton>(dlg, "CmdColor0")->click();
+        EXPECT_EQ(d.t.FontStyle, r.style);
+        EXPECT_EQ(d.t.FontSize, r.size);
+        EXPECT_EQ(uint32_t(d.t.FontColor), r.color);
+    }
+}
+
+TEST(FrmTextColor, PreviewBackgroundAndInk) {
+    TextDoc d;
+    ASSERT_FALSE(DrawableFamily().isEmpty());
+    FrmTextColor dlg(*d.doc, 1);
+    auto* color = Find<QComboBox>(dlg, "CmbColor");
+    const struct {
+        const char* name;
+        QRgb background;
+        bool ink;
+    } rows[] = {
+        {"Black", 0xFFFFFFFFu, true},
+        {"Red", 0xFF000000u, true},
+        {"Transparent", 0xFF000000u, false}, // the sample shows nothing
+        {"White", 0xFF000000u, true},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.name);
+        Choose(color, color->findText(r.name));
+        const QImage img = dlg.preview().convertToFormat(QImage::Format_ARGB32);
+        ASSERT_EQ(img.size(), QSize(270, 180));
+        EXPECT_EQ(img.pixel(0, 0), r.background);
+        EXPECT_EQ(InkPixels(img) > 50, r.ink);
+    }
+}
+
+TEST(FrmTextColor, UnknownFamilyFallsBackToArial) {
+    TextDoc d;
+    d.t.FontName = "  No Such Family Anywhere ";
+    FrmTextColor dlg(*d.doc, 1);
+    EXPECT_EQ(Find<QComboBox>(dlg, "CmbFont")->currentText(), "Arial");
+    EXPECT_EQ(dlg.choice().fontName, "Arial");
+    Find<QPushButton>(dlg, "CmdColor0")->click();
+    EXPECT_EQ(QByteArray(d.t.FontName.data(), 31), QByteArray("Arial") + QByteArray(26, ' '));
+}
+
+TEST(FrmTextColor, ChangesGoInOnlyOnOk) {
+    TextDoc d;
+    const QByteArray before = EncodeText(d.t);
+    {
+        FrmTextColor dlg(*d.doc, 1);
+        Choose(Find<QComboBox>(dlg, "CmbStyle"), 1);
+        Find<QCheckBox>(dlg, "ChkStrikeout")->click();
+        Find<QComboBox>(dlg, "CmbSize")->setEditText("30");
+        Find<QComboBox>(dlg, "CmbSize")->setEditText("big"); // not a number: 30 stays
+        Choose(Find<QComboBox>(dlg, "CmbColor"), 138);       // White
+        EXPECT_EQ(dlg.choice().size, 30);
+        EXPECT_EQ(dlg.choice().style, 9);
+        Find<QPushButton>(dlg, "CmdColor1")->click();
+        EXPECT_EQ(EncodeText(d.t), before);
+    }
+    FrmTextColor dlg(*d.doc, 1);
+    Choose(Find<QComboBox>(dlg, "CmbStyle"), 3);
+    Find<QCheckBox>(dlg, "ChkUnderline")->click();
+    Find<QComboBox>(dlg, "CmbSize")->setEditText("30");
+    Choose(Find<QComboBox>(dlg, "CmbColor"), 138);
+    d.doc->Dirty = false;
+    Find<QPushButton>(dlg, "CmdColor0")->click();
+    EXPECT_EQ(d.t.FontStyle, 7);
+    EXPECT_EQ(d.t.FontSize, 30);
+    EXPECT_EQ(uint32_t(d.t.FontColor), 0xFFFFFFFFu);
+    EXPECT_TRUE(d.doc->Dirty);
+}
+
+TEST(FrmTextColor, FontButtonOfTheTextPane) {
+    TextDoc d;
+    d.t.TabNo = 2;
+    d.t.FontName = "   " + DrawableFamily(); // shown and stored trimmed after the dialog
+    PropsFakeView view;
+    ScriptedPrompter prompter;
+    Editor editor(*d.doc, d.box.ctx, view, prompter);
+    QWidget host;
+    std::array<QWidget*, 5> paneWidgets{};
+    for (auto& p : paneWidgets)
+        p = new QWidget(&host);
+    PropertyPanes panes(paneWidgets, editor, prompter, d.box.ctx);
+    view.panes = &panes;
+    editor.state().CurrentTab = 2;
+    editor.LoadTab(2);
+    editor.chooseRow(1);
+    QTimer::singleShot(0, [] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == "FrmTextColor" && w->isVisible()) {
+                Find<QComboBox>(*w, "CmbSize")->setEditText("40");
+                Find<QPushButton>(*w, "CmdColor0")->click();
+            }
+    });
+    const int paints = view.paints;
+    paneWidgets[2]->findChild<QPushButton*>("CmdFont")->click();
+    EXPECT_EQ(d.t.FontSize, 40);
+    EXPECT_EQ(d.t.FontName.text(), DrawableFamily());
+    EXPECT_EQ(paneWidgets[2]->findChild<QLineEdit*>("TxtFontName")->text(), DrawableFamily());
+    EXPECT_GT(view.paints, paints);
+}

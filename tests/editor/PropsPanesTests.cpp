@@ -1,0 +1,425 @@
+#include "PropsFakeView.h"
+#include "ScriptedPrompter.h"
+#include "TestSupport.h"
+
+#include "edit/Editor.h"
+#include "editor/PropertyPanes.h"
+#include "editor/props/CommitEdits.h"
+#include "io/ScriptFile.h"
+#include "model/TabMap.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTest>
+#include <QVBoxLayout>
+
+using namespace zentor;
+using namespace zentor::test;
+
+namespace {
+
+QByteArray Padded(const QByteArray& text, int n) {
+    return text.left(n) + QByteArray(std::max<qsizetype>(0, n - text.size()), ' ');
+}
+
+int32_t Int32At(const QByteArray& b, int at) {
+    return int32_t(uint32_t(uchar(b[at])) | uint32_t(uchar(b[at + 1])) << 8 |
+                   uint32_t(uchar(b[at + 2])) << 16 | uint32_t(uchar(b[at + 3])) << 24);
+}
+
+// Where the project file keeps what these tests edit.
+constexpr int HeaderAt = 0;
+constexpr int ProfileAt = 564;
+constexpr int TabsAt = ProfileAt + 800; // tab records 1..8, 616 bytes each
+constexpr int TextsAt = TabsAt + 8 * 616;
+constexpr int ImageSize = 324;
+constexpr int TextSize = 4216;
+
+class PropsPanes : public ::testing::Test {
+protected:
+    Sandbox box;
+    std::unique_ptr<Document> doc = box.newDocument();
+    PropsFakeView view;
+    ScriptedPrompter prompter;
+    QWidget window;
+    QStackedWidget* stack = nullptr;
+    QLineEdit* sink = nullptr; // where the focus goes when a box is left
+    std::array<QWidget*, 5> paneWidgets{};
+    std::unique_ptr<Editor> editor;
+    std::unique_ptr<PropertyPanes> panes;
+
+    void SetUp() override {
+        // One picture and one text on page 2, as an inserted object leaves them.
+        ImageElement& img = doc->Images[1];
+        img.TabNo = 2;
+        img.Name = "Photo";
+        img.FileName = "photo.jpg";
+        img.Left = 10, img.Top = 20, img.Width = 100, img.Height = 80;
+        TextElement& txt = doc->Texts[1];
+        txt = doc->Texts[0];
+        txt.TabNo = 2;
+        txt.Name = "Intro";
+        txt.Text = "Hello";
+        txt.Left = 30, txt.Top = 40, txt.Width = 200, txt.Height = 50;
+
+        auto* layout = new QVBoxLayout(&window);
+        sink = new QLineEdit;
+        sink->setObjectName("sink");
+        layout->addWidget(sink);
+        stack = new QStackedWidget;
+        layout->addWidget(stack);
+        for (int i = 0; i < 5; ++i) {
+            paneWidgets[size_t(i)] = new QWidget;
+            paneWidgets[size_t(i)]->setObjectName(QStringLiteral("PicElementLoc%1").arg(i));
+            stack->addWidget(paneWidgets[size_t(i)]);
+        }
+        view.stack = stack;
+        editor = std::make_unique<Editor>(*doc, box.ctx, view, prompter);
+        panes = std::make_unique<PropertyPanes>(paneWidgets, *editor, prompter, box.ctx);
+        panes->setView(&view);
+        view.panes = panes.get();
+        window.resize(320, 760);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        editor->formLoad();
+    }
+
+    void TearDown() override {
+        EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+    }
+
+    void showTab(int tab) {
+        editor->state().CurrentTab = tab;
+        editor->LoadTab(tab);
+    }
+
+    template <typename T = QWidget> T* control(int pane, const char* name) {
+        T* w = paneWidgets[size_t(pane)]->findChild<T*>(QLatin1String(name));
+        EXPECT_NE(w, nullptr) << name;
+        return w;
+    }
+
+    void type(QWidget* box, const QString& text) {
+        box->setFocus(Qt::MouseFocusReason);
+        if (auto* line = qobject_cast<QLineEdit*>(box))
+            line->selectAll();
+        if (auto* plain = qobject_cast<QPlainTextEdit*>(box))
+            plain->selectAll();
+        QTest::keyClicks(box, text);
+    }
+    void leave() { sink->setFocus(Qt::TabFocusReason); }
+    static void choose(QComboBox* c, int row) {
+        c->setCurrentIndex(row);
+        emit c->activated(row);
+    }
+
+    QByteArray saved() {
+        const QString path = box.path("saved.qds");
+        EXPECT_TRUE(SaveScript(*doc, path));
+        return ReadAll(path);
+    }
+};
+
+} // namespace
+
+TEST_F(PropsPanes, EveryPaneHasItsNamedControls) {
+    const std::vector<std::pair<int, std::vector<const char*>>> names = {
+        {0,
+         {"TxtTabName", "PicTabIcon", "CmdTabIcon", "TxtTabPicture", "CmdTabPicture",
+          "CombTabPicAlign"}},
+        {1,
+         {"TxtImgName", "TxtImgFile", "CmdImgFile", "TxtImgLeft", "TxtImgTop", "TxtImgWidth",
+          "TxtImgHeight"}},
+        {2,
+         {"TxtTextName", "TxtWord", "TxtFontName", "CmdFont", "CombAlign0", "CombAlign1",
+          "CombFontShadow", "CombTextHint", "TxtFontLeft", "TxtFontTop", "TxtFontWidth",
+          "TxtFontHeight"}},
+        {3,
+         {"TxtFirstName", "TxtLastName", "TxtPhone", "TxtEmail", "TxtWebsite", "TxtAddress",
+          "TxtPostCode", "CmdUserIcon", "PicUserIcon"}},
+        {4,
+         {"TxtBakPic", "CmdBakPic", "TxtBakMusic", "CmdBakMusic", "CmdBakColor", "PicBakColor",
+          "TxtBakColor", "CmbMusicVol", "CmbAutoRepeat", "CmbShowSpeed", "CmbShowAsRun",
+          "TxtKeepOnTime"}},
+    };
+    for (const auto& [pane, list] : names)
+        for (const char* n : list)
+            control(pane, n);
+    EXPECT_EQ(control<QComboBox>(4, "CmbMusicVol")->count(), 11);
+    EXPECT_EQ(control<QComboBox>(2, "CombAlign0")->itemText(1), "1 - Center ");
+    EXPECT_EQ(control<QLabel>(0, "PicTabIcon")->size(), QSize(128, 128));
+}
+
+TEST_F(PropsPanes, ProfileBoxesCommitOnEnterAndOnLeaving) {
+    ASSERT_EQ(stack->currentIndex(), 3); // the profile page is shown first
+    auto* first = control<QLineEdit>(3, "TxtFirstName");
+    auto* phone = control<QLineEdit>(3, "TxtPhone");
+    EXPECT_EQ(first->text(), "Quorvix");
+    doc->Dirty = false;
+    const int paints = view.paints;
+
+    type(first, "Alexandra");
+    EXPECT_TRUE(doc->Dirty); // a keystroke marks the document before any commit
+    EXPECT_EQ(doc->Profile.FirstName.text(), "Quorvix");
+    QTest::keyClick(first, Qt::Key_Return);
+    EXPECT_EQ(doc->Profile.FirstName.text(), "Alexandra");
+    EXPECT_GT(view.paints, paints); // the page was redrawn
+
+    // A phone number longer than its 16 bytes: stored cut, the box keeps what was typed
+    // until the pane is filled again.
+    type(phone, "+44 20 7946 0958 ext 12");
+    leave();
+    EXPECT_EQ(QByteArray(doc->Profile.Phone.data(), 16), QByteArray("+44 20 7946 0958"));
+    // Leaving the box redrew the page, which fills the pane again from the record.
+    EXPECT_EQ(phone->text(), "+44 20 7946 0958");
+
+    const QByteArray file = saved();
+    EXPECT_EQ(file.mid(ProfileAt + 256, 32), Padded("Alexandra", 32));
+    EXPECT_EQ(file.mid(ProfileAt + 320, 16), QByteArray("+44 20 7946 0958"));
+}
+
+TEST_F(PropsPanes, TabNameRenamesTheStripTab) {
+    showTab(3);
+    ASSERT_EQ(stack->currentIndex(), 0);
+    auto* name = control<QLineEdit>(0, "TxtTabName");
+    EXPECT_EQ(name->text(), doc->Tabs[3].Name.trimNull());
+    type(name, "Career History Across Three Continents");
+    QTest::keyClick(name, Qt::Key_Enter);
+    EXPECT_EQ(QByteArray(doc->Tabs[3].Name.data(), 32),
+              QByteArray("Career History Across Three Cont"));
+    EXPECT_EQ(view.strip.value(GetTabIndex(3)), "Career History Across Three Continents");
+    EXPECT_EQ(saved().mid(TabsAt + 2 * 616 + 580, 32),
+              QByteArray("Career History Across Three Cont"));
+}
+
+TEST_F(PropsPanes, WordsCommitOnlyOnLeaving) {
+    showTab(2);
+    editor->chooseRow(2); // the text
+    ASSERT_EQ(stack->currentIndex(), 2);
+    auto* word = control<QPlainTextEdit>(2, "TxtWord");
+    EXPECT_EQ(word->toPlainText(), "Hello");
+    doc->Dirty = false;
+    type(word, "Line one");
+    QTest::keyClick(word, Qt::Key_Return);
+    QTest::keyClicks(word, "Line two");
+    EXPECT_TRUE(doc->Dirty);
+    EXPECT_EQ(doc->Texts[1].Text.text(), "Hello"); // Enter is a line break, not a commit
+    leave();
+    EXPECT_EQ(doc->Texts[1].Text.text(), "Line one\nLine two");
+    EXPECT_EQ(word->toPlainText(), "Line one\nLine two");
+    const QByteArray file = saved();
+    EXPECT_EQ(file.mid(TextsAt + 36, 20), QByteArray("Line one\nLine two   "));
+}
+
+TEST_F(PropsPanes, HoldingTimeKeepsItsValueOnANonNumber) {
+    showTab(8);
+    ASSERT_EQ(stack->currentIndex(), 4);
+    auto* keep = control<QLineEdit>(4, "TxtKeepOnTime");
+    EXPECT_EQ(keep->text(), "7000");
+    const int paints = view.paints;
+    type(keep, "4500");
+    QTest::keyClick(keep, Qt::Key_Return);
+    EXPECT_EQ(doc->Header.KeepOnTime, 4500);
+    type(keep, "soon");
+    leave();
+    EXPECT_EQ(doc->Header.KeepOnTime, 4500);
+    EXPECT_EQ(keep->text(), "4500");
+    EXPECT_EQ(view.paints, paints); // the holding time only stores
+    EXPECT_EQ(Int32At(saved(), HeaderAt + 552), 4500);
+}
+
+TEST_F(PropsPanes, PositionBoxesMoveTheObjectThroughTheFrame) {
+    showTab(2);
+    editor->chooseRow(1); // the picture
+    ASSERT_EQ(stack->currentIndex(), 1);
+    auto* left = control<QLineEdit>(1, "TxtImgLeft");
+    auto* top = control<QLineEdit>(1, "TxtImgTop");
+    auto* width = control<QLineEdit>(1, "TxtImgWidth");
+    EXPECT_EQ(left->text(), "10");
+    type(left, "250");
+    QTest::keyClick(left, Qt::Key_Return);
+    EXPECT_EQ(doc->Images[1].Left, 250);
+    EXPECT_EQ(editor->state().Frame.Left, 250);
+
+    type(top, "up there");
+    leave();
+    EXPECT_EQ(doc->Images[1].Top, 20); // restored from the record
+    EXPECT_EQ(top->text(), "20");
+
+    // The frame keeps to the page and to its minimum size: what the frame allows is what is
+    // stored and shown.
+    type(width, "3");
+    leave();
+    EXPECT_EQ(doc->Images[1].Width, 7);
+    EXPECT_EQ(width->text(), "7");
+    type(left, "900"); // past the right edge of the 800-pixel page
+    QTest::keyClick(left, Qt::Key_Return);
+    EXPECT_EQ(doc->Images[1].Left, 793);
+    EXPECT_EQ(left->text(), "793");
+    type(left, "250");
+    QTest::keyClick(left, Qt::Key_Return);
+
+    const QByteArray file = saved();
+    const int imageAt = TextsAt + TextSize; // after the one text
+    EXPECT_EQ(Int32At(file, imageAt + 304), 250);
+    EXPECT_EQ(Int32At(file, imageAt + 312), 7);
+    EXPECT_EQ(file.size(), imageAt + ImageSize);
+}
+
+TEST_F(PropsPanes, CombosStoreAndRedrawAsListed) {
+    const struct {
+        int tab, row, pane; // page shown, object list row, pane
+        const char* name;
+        int choice;
+        std::function<int32_t()> field;
+        int32_t expected;
+        bool redraws;
+    } rows[] = {
+        {2, 0, 0, "CombTabPicAlign", 3, [&] { return doc->Tabs[2].Picture.PicAlign; }, 3, true},
+        {2, 2, 2, "CombAlign1", 1, [&] { return doc->Texts[1].LineAlign; }, 1, true},
+        {2, 2, 2, "CombFontShadow", 1, [&] { return int32_t(doc->Texts[1].FontShadow); }, -1, true},
+        {8, 0, 4, "CmbMusicVol", 2, [&] { return Int32At(saved(), HeaderAt + 532); }, 200, false},
+        {8, 0, 4, "CmbShowSpeed", 4, [&] { return Int32At(saved(), HeaderAt + 544); }, 40, false},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.name);
+        showTab(r.tab);
+        editor->chooseRow(r.row);
+        const int paints = view.paints;
+        choose(control<QComboBox>(r.pane, r.name), r.choice);
+        EXPECT_EQ(r.field(), r.expected);
+        EXPECT_EQ(view.paints > paints, r.redraws);
+    }
+    // The keyboard chooses a row the way a click does.
+    auto* speed = control<QComboBox>(4, "CmbShowSpeed");
+    speed->setFocus();
+    QTest::keyClick(speed, Qt::Key_Up);
+    EXPECT_EQ(doc->Header.ShowSpeed, 30);
+}
+
+TEST_F(PropsPanes, FileChoicesStoreShowAndRedrawAsListed) {
+    // A small red picture for the two previews.
+    QImage red(16, 16, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    const QString pic = box.path("red.png");
+    ASSERT_TRUE(red.save(pic));
+    const QString pics = "*.jpg;*.bmp;*.png|*.jpg;*.bmp;*.png|*.*|*.*";
+    const QString icoPics = "*.jpg;*.bmp;*.ico;*.png|*.jpg;*.bmp;*.ico;*.png|*.*|*.*";
+
+    // Profile: the user icon (redraws) and a cancelled background picture.
+    prompter.expectFile(false, "Choose user icon file", pics, pic)
+        .expectFile(false, "Choose Background picture file", icoPics, "");
+    int paints = view.paints;
+    control<QPushButton>(3, "CmdUserIcon")->click();
+    EXPECT_EQ(doc->Profile.UserIcon.trimNull(), pic);
+    EXPECT_GT(view.paints, paints);
+    const QPixmap user = control<QLabel>(3, "PicUserIcon")->pixmap();
+    ASSERT_EQ(user.size(), QSize(128, 128));
+    EXPECT_EQ(user.toImage().pixelColor(64, 64), QColor(Qt::red));
+    const QByteArray before = QByteArray(doc->Header.BackPicture.data(), 256);
+    control<QPushButton>(3, "CmdBakPic")->click();
+    EXPECT_EQ(QByteArray(doc->Header.BackPicture.data(), 256), before);
+
+    // A content page: the tab icon only stores and shows, the tab picture redraws.
+    showTab(5);
+    prompter.expectFile(false, "Choose tab icon file", "*.ico;*.png|*.ico;*.png|*.*|*.*", pic)
+        .expectFile(false, "Choose picture file", icoPics, "/pictures/wide.jpg");
+    // Without an icon of its own a page shows its built-in picture.
+    const QImage builtIn = control<QLabel>(0, "PicTabIcon")->pixmap().toImage();
+    ASSERT_EQ(builtIn.size(), QSize(128, 128));
+    QImage white(128, 128, QImage::Format_RGB32);
+    white.fill(Qt::white);
+    EXPECT_NE(builtIn.convertToFormat(QImage::Format_RGB32), white);
+    paints = view.paints;
+    control<QPushButton>(0, "CmdTabIcon")->click();
+    EXPECT_EQ(view.paints, paints);
+    EXPECT_EQ(doc->Tabs[5].Icon.trimNull(), pic);
+    EXPECT_EQ(control<QLabel>(0, "PicTabIcon")->pixmap().toImage().pixelColor(5, 5),
+              QColor(Qt::red));
+    control<QPushButton>(0, "CmdTabPicture")->click();
+    EXPECT_GT(view.paints, paints);
+    EXPECT_EQ(control<QLineEdit>(0, "TxtTabPicture")->text(), "/pictures/wide.jpg");
+
+    // The slide show: music only stores and shows.
+    showTab(8);
+    prompter.expectFile(false, "Choose Background Music", "*.mp3|*.mp3", "/music/theme.mp3");
+    paints = view.paints;
+    control<QPushButton>(4, "CmdBakMusic")->click();
+    EXPECT_EQ(view.paints, paints);
+    EXPECT_EQ(control<QLineEdit>(4, "TxtBakMusic")->text(), "/music/theme.mp3");
+
+    const QByteArray file = saved();
+    EXPECT_EQ(file.mid(ProfileAt, 256), Padded(pic.toLocal8Bit(), 256));
+    EXPECT_EQ(file.mid(HeaderAt + 20, 256), Padded("/music/theme.mp3", 256));
+    EXPECT_EQ(file.mid(TabsAt + 4 * 616 + 38, 18), QByteArray("/pictures/wide.jpg"));
+}
+
+TEST_F(PropsPanes, DoubleClickCommandsRunTheSameChoices) {
+    showTab(2);
+    editor->chooseRow(1);
+    prompter.expectFile(false, "Choose image file", "*.jpg;*.bmp;*.png|*.jpg;*.bmp;*.png|*.*|*.*",
+                        "/img/new.png");
+    editor->frameDoubleClick();
+    EXPECT_EQ(doc->Images[1].FileName.trimNull(), "/img/new.png");
+    EXPECT_EQ(control<QLineEdit>(1, "TxtImgFile")->text(), "/img/new.png");
+}
+
+TEST_F(PropsPanes, BackColourButtonStoresEvenACancel) {
+    showTab(8);
+    prompter.expectColor(0x000000FF).expectColor(0);
+    auto* button = control<QPushButton>(4, "CmdBakColor");
+    auto* text = control<QLineEdit>(4, "TxtBakColor");
+    button->click();
+    EXPECT_EQ(doc->Header.BackColor, 0x000000FF);
+    EXPECT_EQ(text->text(), "     &H000000FF");
+    EXPECT_EQ(control<QLabel>(4, "PicBakColor")->palette().color(QPalette::Window),
+              QColor(255, 0, 0));
+    EXPECT_EQ(Int32At(saved(), HeaderAt + 540), 0xFF);
+    button->click(); // cancelled: black
+    EXPECT_EQ(doc->Header.BackColor, 0);
+    EXPECT_EQ(text->text(), "     &H00000000");
+}
+
+TEST_F(PropsPanes, ALateCommitWritesTheObjectThePaneWasFilledFor) {
+    showTab(2);
+    editor->chooseRow(1);
+    auto* name = control<QLineEdit>(1, "TxtImgName");
+    type(name, "Portrait");
+    // The selection moves on without the box being left (as a workspace click can do).
+    editor->chooseRow(2);
+    panes->commitPendingEdit();
+    EXPECT_EQ(doc->Images[1].Name.text(), "Portrait");
+    EXPECT_EQ(doc->Texts[1].Name.text(), "Intro");
+}
+
+TEST(PropsPanesOwner, AMainWindowParentIsTheView) {
+    // The main window owns the panes and is the editor's view at once.
+    struct Window : QObject, PropsFakeView {};
+    Sandbox box;
+    auto doc = box.newDocument();
+    Window window;
+    ScriptedPrompter prompter;
+    QWidget host;
+    std::array<QWidget*, 5> paneWidgets{};
+    for (auto& p : paneWidgets)
+        p = new QWidget(&host);
+    Editor editor(*doc, box.ctx, window, prompter);
+    auto* panes = new PropertyPanes(paneWidgets, editor, prompter, box.ctx, &window);
+    window.panes = panes;
+    host.show();
+    editor.state().CurrentTab = 6;
+    editor.LoadTab(6);
+    auto* name = paneWidgets[0]->findChild<CommitLineEdit*>("TxtTabName");
+    name->setText("Languages");
+    emit name->committed();
+    EXPECT_EQ(window.strip.value(GetTabIndex(6)), "Languages");
+    EXPECT_EQ(doc->Tabs[6].Name.text(), "Languages");
+}
