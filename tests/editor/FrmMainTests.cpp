@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -299,6 +300,38 @@ TEST_F(WindowTest, TheProfileRingShowsAHandAndLeadsToItsPage) {
     QTest::mouseClick(ws, Qt::LeftButton, {}, over);
     EXPECT_EQ(state().CurrentTab, 3);
     EXPECT_EQ(strip->currentIndex(), 5);
+}
+
+TEST_F(WindowTest, DoubleClickingThePageChoosesItsPicture) {
+    struct Case {
+        int strip;
+        const char* title;
+        const char* filter;
+    };
+    const Case cases[] = {
+        {1, "Choose user icon file", "*.jpg;*.bmp;*.png|*.jpg;*.bmp;*.png|*.*|*.*"},
+        {2, "Choose picture file", "*.jpg;*.bmp;*.ico;*.png|*.jpg;*.bmp;*.ico;*.png|*.*|*.*"},
+        {9, "Choose Background picture file",
+         "*.jpg;*.bmp;*.ico;*.png|*.jpg;*.bmp;*.ico;*.png|*.*|*.*"},
+    };
+    for (const Case& c : cases) {
+        clickStrip(c.strip);
+        prompter.expectFile(false, c.title, c.filter, QString());
+        QTest::mouseDClick(ws, Qt::LeftButton, {}, QPoint(300, 300));
+    }
+}
+
+TEST_F(WindowTest, APageChangeStoresTheNameBeingTyped) {
+    clickStrip(2);
+    auto* name = find<QLineEdit>("TxtTabName");
+    ASSERT_TRUE(name->isVisible());
+    name->setFocus();
+    name->selectAll();
+    QTest::keyClicks(name, "About me");
+    clickStrip(3);
+    EXPECT_EQ(doc->Tabs[7].Name.text(), "About me");
+    EXPECT_EQ(strip->tabText(1), "About me");
+    EXPECT_EQ(state().CurrentTab, 6);
 }
 
 TEST_F(WindowTest, DeleteKeyAsksBeforeDeletingTheSelectedText) {
