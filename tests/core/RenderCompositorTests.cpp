@@ -19,37 +19,21 @@ constexpr QRgb White = 0xFFFFFFFFu;
 
 QString SolidFile(const test::Sandbox& box, const QString& name, QRgb color,
                   QSize size = {40, 40}) {
-    QImage img(size, QImage::Format_RGB32);
-    img.fill(color);
-    img.save(box.path(name));
+    test::Solid(size.width(), size.height(), color).save(box.path(name));
     return box.path(name);
 }
 
 void PlaceImage(Document& doc, int slot, int tab, const QString& file, QRect r) {
-    ImageElement& e = doc.Images[size_t(slot)];
-    e = doc.Images[0];
-    e.TabNo = tab;
-    e.FileName = file;
-    e.Left = r.x();
-    e.Top = r.y();
-    e.Width = r.width();
-    e.Height = r.height();
+    test::PlaceImage(doc, slot, tab, r, file);
 }
 
 void PlaceText(Document& doc, int slot, int tab, const QString& text, QRect r, int color) {
-    TextElement& t = doc.Texts[size_t(slot)];
-    t = doc.Texts[0];
-    t.TabNo = tab;
-    t.Text = text;
+    TextElement& t = test::PlaceText(doc, slot, tab, r, text);
     t.FontName = "Liberation Sans";
     t.FontSize = 40;
     t.FontShadow = 0;
     t.FontColor = color;
     t.TextHint = 2; // crisp: every text pixel has exactly the text colour
-    t.Left = r.x();
-    t.Top = r.y();
-    t.Width = r.width();
-    t.Height = r.height();
 }
 
 int Count(const QImage& img, QRgb c, QRect in) {
@@ -173,11 +157,8 @@ TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
     const QString blue = SolidFile(box, "blue.png", qRgb(0, 0, 255), QSize(300, 200));
     for (int tab = 1; tab <= 7; ++tab) {
         PlaceImage(*doc, tab, tab, tab % 2 ? red : blue, QRect(tab * 20, tab * 30, 300, 200));
-        TextElement& t = doc->Texts[size_t(tab)];
-        t = doc->Texts[0];
-        t.TabNo = tab;
-        t.Text = QStringLiteral("Page %1 of a résumé drawn on a worker thread").arg(tab);
-        t.Left = 50, t.Top = 400, t.Width = 600, t.Height = 100;
+        test::PlaceText(*doc, tab, tab, {50, 400, 600, 100},
+                        QStringLiteral("Page %1 of a résumé drawn on a worker thread").arg(tab));
     }
     std::vector<QImage> sequential;
     for (int page = 1; page <= 8; ++page)
