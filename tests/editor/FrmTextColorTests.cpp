@@ -34,12 +34,7 @@ QString DrawableFamily() {
 
 // Pixels of the preview that are neither the background nor near it.
 int InkPixels(const QImage& img) {
-    const QRgb bg = img.pixel(0, 0);
-    int n = 0;
-    for (int y = 0; y < img.height(); ++y)
-        for (int x = 0; x < img.width(); ++x)
-            n += img.pixel(x, y) != bg;
-    return n;
+    return img.width() * img.height() - CountPixels(img, img.pixel(0, 0));
 }
 
 struct TextDoc {

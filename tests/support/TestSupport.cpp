@@ -67,6 +67,16 @@ TextElement& PlaceText(Document& doc, int slot, int tab, QRect r, const QString&
     return e;
 }
 
+int CountPixels(const QImage& img, QRgb colour, QRect in) {
+    if (in.isNull())
+        in = img.rect();
+    int n = 0;
+    for (int y = in.top(); y <= in.bottom(); ++y)
+        for (int x = in.left(); x <= in.right(); ++x)
+            n += img.pixel(x, y) == colour;
+    return n;
+}
+
 QByteArray ReadAll(const QString& path) {
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();

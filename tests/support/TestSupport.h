@@ -33,6 +33,8 @@ QByteArray Padded(const QByteArray& text, int width);
 int32_t Int32At(const QByteArray& bytes, qsizetype offset);
 // A picture of one colour.
 QImage Solid(int width, int height, QRgb colour);
+// Pixels of exactly `colour` inside `in` (the whole picture when `in` is null).
+int CountPixels(const QImage& img, QRgb colour, QRect in = {});
 // Colours within `tolerance` in each channel (JPEG and scaling shift them a little).
 bool Near(QRgb a, QRgb b, int tolerance = 6);
 
