@@ -55,18 +55,16 @@ TEST_F(GenerateResumeTest, ExtensionIsAddedUnlessTheNameEndsInItExactly) {
     }
 }
 
-TEST_F(GenerateResumeTest, CancelWritesNothing) {
-    ScriptedPrompter prompter;
-    prompter.expectFile(true, QdvTitle, QdvFilter, QString());
-    ResumeGenerator gen(box.ctx, prompter, pictures);
-    EXPECT_EQ(gen.GenerateResume(*doc, false), Outcome::Cancelled);
-    EXPECT_PROMPTS_DONE(prompter);
-    EXPECT_EQ(pictures.calls, 0);
-}
-
-TEST_F(GenerateResumeTest, AnExistingFileIsReplacedOnlyAfterYes) {
+TEST_F(GenerateResumeTest, CancelOrNoWritesNothingAndOnlyYesReplaces) {
     const QString path = box.path(QStringLiteral("cv.qdv"));
     const QByteArray old("an older file");
+    // Cancelling the file dialog renders nothing at all.
+    ScriptedPrompter cancel;
+    cancel.expectFile(true, QdvTitle, QdvFilter, QString());
+    EXPECT_EQ(ResumeGenerator(box.ctx, cancel, pictures).GenerateResume(*doc, false),
+              Outcome::Cancelled);
+    EXPECT_PROMPTS_DONE(cancel);
+    EXPECT_EQ(pictures.calls, 0);
     for (const Answer answer : {Answer::No, Answer::Yes}) {
         ASSERT_TRUE(WriteAll(path, old));
         ScriptedPrompter prompter;
