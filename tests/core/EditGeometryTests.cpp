@@ -2,6 +2,7 @@
 #include "edit/HitTest.h"
 #include "edit/TabNavigation.h"
 #include "edit/WorkspaceLayout.h"
+#include "render/IconRing.h"
 
 #include <gtest/gtest.h>
 
@@ -40,99 +41,51 @@ TEST(EditGeometry, HandlesSitInsideTheFrameWithUnroundedHalves) {
         EXPECT_EQ(h[k], expected[k]) << "handle " << k;
 }
 
-struct ResizeCase {
-    const char* what;
-    int handle;
-    IntRect start;
-    int dx, dy;
-    IntRect beforeClamp, after; // ResizeByHandle, then MoveAdd
-};
-
 TEST(EditGeometry, ResizeByHandleKeepsTheOppositeEdge) {
-    const ResizeCase cases[] = {
-        {"top-left past the page top: Top 0, height grows by the old Top",
-         0,
-         {100, 20, 100, 100},
-         0,
-         -50,
-         {100, 0, 100, 120},
-         {100, 0, 100, 120}},
-        {"left handle past the right edge: 7 wide, right edge kept",
-         1,
-         {100, 50, 100, 100},
-         150,
-         0,
-         {193, 50, 7, 100},
-         {193, 50, 7, 100}},
-        {"right handle past the left edge: below 7, MoveAdd raises it",
-         6,
-         {100, 50, 100, 100},
-         -150,
-         0,
-         {100, 50, -50, 100},
-         {100, 50, 7, 100}},
-        {"bottom-right past the page corner stops on it",
-         7,
-         {700, 500, 50, 50},
-         100,
-         100,
-         {700, 500, 100, 100},
-         {700, 500, 100, 100}},
-        {"left handle past the page's left: Left 0, right edge kept",
-         1,
-         {10, 50, 100, 100},
-         -30,
-         0,
-         {0, 50, 110, 100},
-         {0, 50, 110, 100}},
-        {"middle handles move one axis only",
-         3,
-         {100, 100, 50, 50},
-         30,
-         10,
-         {100, 110, 50, 40},
-         {100, 110, 50, 40}},
-        {"bottom middle", 4, {100, 100, 50, 50}, 30, 25, {100, 100, 50, 75}, {100, 100, 50, 75}},
-        {"bottom-left", 2, {100, 100, 50, 50}, -20, 5, {80, 100, 70, 55}, {80, 100, 70, 55}},
-        {"top-right past the bottom: 7 high, bottom edge kept",
-         5,
-         {100, 100, 50, 50},
-         10,
-         60,
-         {100, 143, 60, 7},
-         {100, 143, 60, 7}},
+    const struct {
+        int handle;
+        IntRect start;
+        int dx, dy;
+        IntRect beforeClamp, after; // ResizeByHandle, then MoveAdd
+    } cases[] = {
+        // Top-left past the page top: Top 0, the height grows by the old Top.
+        {0, {100, 20, 100, 100}, 0, -50, {100, 0, 100, 120}, {100, 0, 100, 120}},
+        // Left handle past the right edge: 7 wide, the right edge kept.
+        {1, {100, 50, 100, 100}, 150, 0, {193, 50, 7, 100}, {193, 50, 7, 100}},
+        // Right handle past the left edge: below 7, MoveAdd raises it.
+        {6, {100, 50, 100, 100}, -150, 0, {100, 50, -50, 100}, {100, 50, 7, 100}},
+        // Bottom-right past the page corner stops on it.
+        {7, {700, 500, 50, 50}, 100, 100, {700, 500, 100, 100}, {700, 500, 100, 100}},
+        // Left handle past the page's left: Left 0, the right edge kept.
+        {1, {10, 50, 100, 100}, -30, 0, {0, 50, 110, 100}, {0, 50, 110, 100}},
+        // Middle handles move one axis only.
+        {3, {100, 100, 50, 50}, 30, 10, {100, 110, 50, 40}, {100, 110, 50, 40}},
+        {4, {100, 100, 50, 50}, 30, 25, {100, 100, 50, 75}, {100, 100, 50, 75}},
+        {2, {100, 100, 50, 50}, -20, 5, {80, 100, 70, 55}, {80, 100, 70, 55}},
+        // Top-right past the bottom: 7 high, the bottom edge kept.
+        {5, {100, 100, 50, 50}, 10, 60, {100, 143, 60, 7}, {100, 143, 60, 7}},
         // A frame already past the right border: the width is taken from the starting Left.
-        {"left handle on an object sticking out right",
-         0,
-         {750, 0, 100, 40},
-         10,
-         0,
-         {760, 0, 50, 40},
-         {750, 0, 50, 40}},
+        {0, {750, 0, 100, 40}, 10, 0, {760, 0, 50, 40}, {750, 0, 50, 40}},
     };
-    for (const ResizeCase& c : cases) {
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases); // the row
         IntRect r = ResizeByHandle(c.handle, c.start, c.dx, c.dy, 800, 600);
-        EXPECT_EQ(r, c.beforeClamp) << c.what;
+        EXPECT_EQ(r, c.beforeClamp);
         MoveAdd(r, 800, 600);
-        EXPECT_EQ(r, c.after) << c.what;
+        EXPECT_EQ(r, c.after);
     }
 }
 
-TEST(EditGeometry, IconRingAroundTheCentreRoundsHalvesToEven) {
-    const auto r = IconRingRects(800, 600);
-    EXPECT_EQ(r[0], (EdgeRect{336, 236, 464, 364}));
-    EXPECT_EQ(r[1], (EdgeRect{610, 260, 690, 340})); // right of the centre
-    EXPECT_EQ(r[2], (EdgeRect{537, 437, 617, 517})); // 45 degrees, below right
-    EXPECT_EQ(r[3], (EdgeRect{360, 510, 440, 590})); // below
-    EXPECT_EQ(r[5], (EdgeRect{110, 260, 190, 340})); // left
-    EXPECT_EQ(r[7], (EdgeRect{360, 10, 440, 90}));   // above
-    // 400.5 and 300.5 round to the even 400 and 300; 336.5 and 236.5 to 336 and 236.
-    const auto odd = IconRingRects(801, 601);
-    EXPECT_EQ(odd[0], (EdgeRect{336, 236, 464, 364}));
-    EXPECT_EQ(odd[1], (EdgeRect{610, 260, 690, 340}));
-}
-
-TEST(EditGeometry, HoverOverRingIconsExcludesEdges) {
+TEST(EditGeometry, HoverUsesTheDrawnRingAndExcludesEdges) {
+    // 400.5 and 300.5 round to the even 400 and 300: an odd frame has the same ring.
+    const IconRectTable drawn = IconRects(QSize(800, 600));
+    for (const QSize frame : {QSize(800, 600), QSize(801, 601)}) {
+        const auto ring = IconRingRects(frame.width(), frame.height());
+        for (int i = 0; i < 9; ++i)
+            EXPECT_EQ(ring[i],
+                      (EdgeRect{drawn[i].Left, drawn[i].Top, drawn[i].Right, drawn[i].Bottom}))
+                << i;
+    }
     const auto r = IconRingRects(800, 600);
     const struct {
         double x, y;

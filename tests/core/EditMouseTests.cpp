@@ -87,15 +87,6 @@ TEST(EditMouse, RightButtonSelectsWithoutDragAndOpensTheEditMenu) {
     EXPECT_TRUE(f.view.log.isEmpty());
 }
 
-TEST(EditMouse, PressOnEmptyPlaceSelectsThePageAndStartsNoDrag) {
-    PageFixture f;
-    f.editor.workspaceMouseDown(MouseButton::Left, {500, 500});
-    EXPECT_EQ(f.view.currentRow, 0);
-    EXPECT_EQ(f.editor.state().SelectedKind, KindTab);
-    EXPECT_FALSE(f.view.frameVisible);
-    EXPECT_FALSE(f.editor.state().WorkspaceMoving);
-}
-
 TEST(EditMouse, RedrawKeepsTheSelectedObjectButNotThePageRow) {
     PageFixture f;
     f.editor.workspaceMouseDown(MouseButton::Left, {110, 110});

@@ -18,19 +18,11 @@ using Answer = Prompter::Answer;
 namespace {
 
 void PutImage(Document& d, int slot, int tab, IntRect r, const char* name) {
-    d.Images[slot] = d.Images[0];
-    d.Images[slot].TabNo = tab;
-    d.Images[slot].Left = r.Left, d.Images[slot].Top = r.Top;
-    d.Images[slot].Width = r.Width, d.Images[slot].Height = r.Height;
-    d.Images[slot].Name = name;
+    PlaceImage(d, slot, tab, {r.Left, r.Top, r.Width, r.Height}).Name = name;
 }
 
 void PutText(Document& d, int slot, int tab, IntRect r, const char* name) {
-    d.Texts[slot] = d.Texts[0];
-    d.Texts[slot].TabNo = tab;
-    d.Texts[slot].Left = r.Left, d.Texts[slot].Top = r.Top;
-    d.Texts[slot].Width = r.Width, d.Texts[slot].Height = r.Height;
-    d.Texts[slot].Name = name;
+    PlaceText(d, slot, tab, {r.Left, r.Top, r.Width, r.Height}).Name = name;
 }
 
 TEST(EditObjects, ObjectListRowsAndMap) {
@@ -198,7 +190,7 @@ TEST(EditObjects, DelObjectAsksAndOnlyYesChanges) {
             ScriptedPrompter p;
             p.expectQuestion(c.title, c.text, answer);
             EXPECT_EQ(DelObject(*d, c.kind, 2, 1, p, box.ctx), answer == Answer::Yes);
-            EXPECT_TRUE(p.failures().isEmpty()) << p.failures().join('\n').toStdString();
+            EXPECT_PROMPTS_DONE(p);
             if (answer == Answer::Yes)
                 EXPECT_TRUE(c.changed(*before, *d)) << c.title;
             else

@@ -37,23 +37,8 @@ protected:
         tabPicture.FileName = QStringLiteral("  hills.png");
         tabPicture.Width = 640;
         tabPicture.Height = 480;
-        ImageElement& photo = doc->Images[1];
-        photo = doc->Images[0];
-        photo.TabNo = 1;
-        photo.FileName = QStringLiteral("photo.jpg");
-        photo.Left = 20;
-        photo.Top = 30;
-        photo.Width = 180;
-        photo.Height = 120;
-        TextElement& text = doc->Texts[1];
-        text = doc->Texts[0];
-        text.TabNo = 1;
-        text.Text = QStringLiteral("Experience");
-        text.Left = 20;
-        text.Top = 200;
-        text.Width = 400;
-        text.Height = 60;
-        text.FontShadow = -1;
+        PlaceImage(*doc, 1, 1, {20, 30, 180, 120}, QStringLiteral("photo.jpg"));
+        PlaceText(*doc, 1, 1, {20, 200, 400, 60}, QStringLiteral("Experience")).FontShadow = -1;
         ASSERT_TRUE(SaveScript(*doc, box.path(QStringLiteral("cv.qds"))));
     }
     void write(const QString& name, const QByteArray& bytes) {
@@ -64,7 +49,7 @@ protected:
         ResumeGenerator gen(box.ctx, prompter, pictures);
         gen.setParallel(parallel);
         EXPECT_EQ(gen.writePackage(d, box.path(name), false), ResumeGenerator::Outcome::Written);
-        EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+        EXPECT_PROMPTS_DONE(prompter);
         return ParsePackage(ReadAll(box.path(name)), PackageForm::Qdv);
     }
 

@@ -49,24 +49,22 @@ TEST_F(GenerateResumeTest, ExtensionIsAddedUnlessTheNameEndsInItExactly) {
         ResumeGenerator gen(box.ctx, prompter, pictures);
         gen.setPlayer(FakePlayer());
         EXPECT_EQ(gen.GenerateResume(*doc, c.selfRun), Outcome::Written);
-        EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+        EXPECT_PROMPTS_DONE(prompter);
         EXPECT_TRUE(QFile::exists(box.path(QLatin1String(c.written))));
         EXPECT_EQ(QDir(box.dir.path()).entryList(QDir::Files).size(), 1);
     }
 }
 
-TEST_F(GenerateResumeTest, CancelWritesNothing) {
-    ScriptedPrompter prompter;
-    prompter.expectFile(true, QdvTitle, QdvFilter, QString());
-    ResumeGenerator gen(box.ctx, prompter, pictures);
-    EXPECT_EQ(gen.GenerateResume(*doc, false), Outcome::Cancelled);
-    EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
-    EXPECT_EQ(pictures.calls, 0);
-}
-
-TEST_F(GenerateResumeTest, AnExistingFileIsReplacedOnlyAfterYes) {
+TEST_F(GenerateResumeTest, CancelOrNoWritesNothingAndOnlyYesReplaces) {
     const QString path = box.path(QStringLiteral("cv.qdv"));
     const QByteArray old("an older file");
+    // Cancelling the file dialog renders nothing at all.
+    ScriptedPrompter cancel;
+    cancel.expectFile(true, QdvTitle, QdvFilter, QString());
+    EXPECT_EQ(ResumeGenerator(box.ctx, cancel, pictures).GenerateResume(*doc, false),
+              Outcome::Cancelled);
+    EXPECT_PROMPTS_DONE(cancel);
+    EXPECT_EQ(pictures.calls, 0);
     for (const Answer answer : {Answer::No, Answer::Yes}) {
         ASSERT_TRUE(WriteAll(path, old));
         ScriptedPrompter prompter;
@@ -75,7 +73,7 @@ TEST_F(GenerateResumeTest, AnExistingFileIsReplacedOnlyAfterYes) {
         ResumeGenerator gen(box.ctx, prompter, pictures);
         EXPECT_EQ(gen.GenerateResume(*doc, false),
                   answer == Answer::Yes ? Outcome::Written : Outcome::Cancelled);
-        EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+        EXPECT_PROMPTS_DONE(prompter);
         EXPECT_EQ(ReadAll(path) == old, answer == Answer::No);
     }
 }
@@ -96,7 +94,7 @@ TEST_F(GenerateResumeTest, GeneratingTwiceGivesTheSameFileAndLeavesNoTemporaryPi
     ASSERT_EQ(gen.GenerateResume(*doc, true), Outcome::Written);
     EXPECT_FALSE(QFile::exists(box.ctx.TempImagePath));
     EXPECT_EQ(ReadAll(path), first);
-    EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+    EXPECT_PROMPTS_DONE(prompter);
 }
 
 } // namespace

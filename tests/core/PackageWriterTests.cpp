@@ -76,7 +76,7 @@ protected:
 
 TEST_F(PackageWriterTest, DataFileHoldsTheProjectRecordsAndContiguousBlobs) {
     const QByteArray qdv = generate(false);
-    EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
+    EXPECT_PROMPTS_DONE(prompter);
 
     // The header and profile exactly as the project file has them; then tabs 1..7's names.
     EXPECT_EQ(qdv.mid(228, 564), project.mid(0, 564));
@@ -177,7 +177,7 @@ TEST_F(PackageWriterTest, UnreadableSourceAppendsThePreviousBuffer) {
                             QStringLiteral("Can't find the file: ") + missing);
         const QString out = box.path(QStringLiteral("broken.pkg"));
         ASSERT_EQ(fresh.writePackage(*broken, out, c.selfRun), ResumeGenerator::Outcome::Written);
-        EXPECT_TRUE(local.failures().isEmpty()) << local.failures().join('\n').toStdString();
+        EXPECT_PROMPTS_DONE(local);
 
         const QByteArray file = ReadAll(out);
         const qsizetype table = c.selfRun ? Player : 0;
@@ -223,7 +223,7 @@ TEST_F(PackageWriterTest, PositionsPastTheLimitAreRefused) {
                                 QStringLiteral("Can't create file : ") + out);
         EXPECT_EQ(limited.writePackage(*doc, out, false),
                   fits ? ResumeGenerator::Outcome::Written : ResumeGenerator::Outcome::Failed);
-        EXPECT_TRUE(local.failures().isEmpty()) << local.failures().join('\n').toStdString();
+        EXPECT_PROMPTS_DONE(local);
         if (fits) {
             EXPECT_EQ(ReadAll(out), full);
         }
@@ -250,7 +250,7 @@ TEST_F(PackageWriterTest, FailuresToWriteShowTheWriteError) {
         local.expectWarning(QStringLiteral("Generate QDV Error"),
                             QStringLiteral("Can't create file : ") + c.path);
         EXPECT_EQ(failing.writePackage(*doc, c.path, c.selfRun), ResumeGenerator::Outcome::Failed);
-        EXPECT_TRUE(local.failures().isEmpty()) << local.failures().join('\n').toStdString();
+        EXPECT_PROMPTS_DONE(local);
     }
 }
 

@@ -1,5 +1,7 @@
 // The disk form of every record, checked against bytes laid out here by hand from the
 // published record tables, not by the code under test.
+#include "TestSupport.h"
+
 #include "io/RecordCodec.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +12,7 @@
 #include <vector>
 
 using namespace zentor;
+using test::Padded;
 
 namespace {
 
@@ -26,11 +29,6 @@ QByteArray le32(uint32_t v) {
 QByteArray le16(uint16_t v) {
     const char b[2] = {char(v & 0xFF), char(v >> 8)};
     return QByteArray(b, 2);
-}
-QByteArray padded(const char* text, int size) {
-    QByteArray b(text);
-    b.append(QByteArray(size - b.size(), ' '));
-    return b;
 }
 
 // Builds the expected record: zero everywhere, then each field at its offset.
@@ -60,8 +58,8 @@ ImageElement sampleImage() {
 std::vector<Expect> imageFieldsAt(int base) {
     return {{base + 0, le32(3)},
             {base + 4, le16(0xFFFF)},
-            {base + 6, padded("image 7", 32)},
-            {base + 38, padded("pics/a.jpg", 256)},
+            {base + 6, Padded("image 7", 32)},
+            {base + 38, Padded("pics/a.jpg", 256)},
             {base + 296, le32(4)},
             {base + 300, le16(0x1234)},
             {base + 304, le32(uint32_t(-5))},
@@ -95,8 +93,8 @@ TEST(RecordLayout, HeaderBytes) {
                                              {8, le32(3)},
                                              {12, le32(4)},
                                              {16, le32(5)},
-                                             {20, padded("m.mp3", 256)},
-                                             {276, padded("b.jpg", 256)},
+                                             {20, Padded("m.mp3", 256)},
+                                             {276, Padded("b.jpg", 256)},
                                              {532, le32(500)},
                                              {536, le32(1)},
                                              {540, le32(0x00FF8040)},
@@ -121,14 +119,14 @@ TEST(RecordLayout, ProfileBytes) {
     p.Website = "w.example";
     p.Address = "1 Road";
     p.PostCode = "N1";
-    const QByteArray expected = layout(800, {{0, padded("me.png", 256)},
-                                             {256, padded("Ada", 32)},
-                                             {288, padded("Byron", 32)},
-                                             {320, padded("555", 16)},
-                                             {336, padded("a@b.example", 64)},
-                                             {400, padded("w.example", 128)},
-                                             {528, padded("1 Road", 256)},
-                                             {784, padded("N1", 16)}});
+    const QByteArray expected = layout(800, {{0, Padded("me.png", 256)},
+                                             {256, Padded("Ada", 32)},
+                                             {288, Padded("Byron", 32)},
+                                             {320, Padded("555", 16)},
+                                             {336, Padded("a@b.example", 64)},
+                                             {400, Padded("w.example", 128)},
+                                             {528, Padded("1 Road", 256)},
+                                             {784, Padded("N1", 16)}});
     EXPECT_EQ(EncodeProfile(p), expected);
     ProfileRecord back;
     DecodeProfile(expected, back);
@@ -146,8 +144,8 @@ TEST(RecordLayout, ImageAndTabBytesKeepGapsZero) {
     t.Name = "Awards";
     t.Extra = 9;
     std::vector<Expect> tabFields = imageFieldsAt(0);
-    tabFields.push_back({324, padded("i.ico", 256)});
-    tabFields.push_back({580, padded("Awards", 32)});
+    tabFields.push_back({324, Padded("i.ico", 256)});
+    tabFields.push_back({580, Padded("Awards", 32)});
     tabFields.push_back({612, le32(9)});
     const QByteArray expectedTab = layout(616, tabFields);
     EXPECT_EQ(EncodeTab(t), expectedTab);
@@ -182,14 +180,14 @@ TEST(RecordLayout, TextBytes) {
     t.LineAlign = 1;
     t.Extra2 = -7;
     const QByteArray expected = layout(4216, {{0, le32(7)},
-                                              {4, padded("text 1", 32)},
-                                              {36, padded("Hello", 4096)},
+                                              {4, Padded("text 1", 32)},
+                                              {36, Padded("Hello", 4096)},
                                               {4132, le32(11)},
                                               {4136, le32(10)},
                                               {4140, le32(20)},
                                               {4144, le32(300)},
                                               {4148, le32(40)},
-                                              {4152, padded("Arial", 31)},
+                                              {4152, Padded("Arial", 31)},
                                               {4184, le32(12)},
                                               {4188, le32(5)},
                                               {4192, le32(2)},

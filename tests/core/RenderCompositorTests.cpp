@@ -19,45 +19,21 @@ constexpr QRgb White = 0xFFFFFFFFu;
 
 QString SolidFile(const test::Sandbox& box, const QString& name, QRgb color,
                   QSize size = {40, 40}) {
-    QImage img(size, QImage::Format_RGB32);
-    img.fill(color);
-    img.save(box.path(name));
+    test::Solid(size.width(), size.height(), color).save(box.path(name));
     return box.path(name);
 }
 
 void PlaceImage(Document& doc, int slot, int tab, const QString& file, QRect r) {
-    ImageElement& e = doc.Images[size_t(slot)];
-    e = doc.Images[0];
-    e.TabNo = tab;
-    e.FileName = file;
-    e.Left = r.x();
-    e.Top = r.y();
-    e.Width = r.width();
-    e.Height = r.height();
+    test::PlaceImage(doc, slot, tab, r, file);
 }
 
 void PlaceText(Document& doc, int slot, int tab, const QString& text, QRect r, int color) {
-    TextElement& t = doc.Texts[size_t(slot)];
-    t = doc.Texts[0];
-    t.TabNo = tab;
-    t.Text = text;
+    TextElement& t = test::PlaceText(doc, slot, tab, r, text);
     t.FontName = "Liberation Sans";
     t.FontSize = 40;
     t.FontShadow = 0;
     t.FontColor = color;
     t.TextHint = 2; // crisp: every text pixel has exactly the text colour
-    t.Left = r.x();
-    t.Top = r.y();
-    t.Width = r.width();
-    t.Height = r.height();
-}
-
-int Count(const QImage& img, QRgb c, QRect in) {
-    int n = 0;
-    for (int y = in.top(); y <= in.bottom(); ++y)
-        for (int x = in.left(); x <= in.right(); ++x)
-            n += img.pixel(x, y) == c;
-    return n;
 }
 
 struct RenderCompositor : ::testing::Test {
@@ -79,11 +55,12 @@ TEST_F(RenderCompositor, TabPictureAtItsStoredRectangle) {
     pic.Left = 100, pic.Top = 50, pic.Width = 300, pic.Height = 200;
     const QImage page = RenderPageImage(*doc, 2, res);
     ASSERT_EQ(page.size(), QSize(800, 600));
-    EXPECT_EQ(Count(page, qRgb(0, 0, 255), QRect(100, 50, 300, 200)), 300 * 200);
-    EXPECT_EQ(Count(page, qRgb(0, 0, 255), page.rect()), 300 * 200);
+    EXPECT_EQ(test::CountPixels(page, qRgb(0, 0, 255), QRect(100, 50, 300, 200)), 300 * 200);
+    EXPECT_EQ(test::CountPixels(page, qRgb(0, 0, 255), page.rect()), 300 * 200);
     EXPECT_EQ(page.pixel(99, 49), White);
     // Other pages do not show it.
-    EXPECT_EQ(Count(RenderPageImage(*doc, 3, res), White, QRect(0, 0, 800, 600)), 800 * 600);
+    EXPECT_EQ(test::CountPixels(RenderPageImage(*doc, 3, res), White, QRect(0, 0, 800, 600)),
+              800 * 600);
 }
 
 TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
@@ -102,8 +79,8 @@ TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
     const QImage page = RenderPageImage(*doc, 4, res);
     EXPECT_EQ(page.pixel(150, 150), qRgb(255, 0, 0));
     EXPECT_EQ(page.pixel(250, 350), qRgb(0, 255, 0)); // overlap, below the text
-    EXPECT_EQ(Count(page, qRgb(255, 0, 0), QRect(200, 200, 100, 100)), 0);
-    EXPECT_GT(Count(page, qRgb(0, 0, 255), QRect(210, 210, 180, 80)), 200);
+    EXPECT_EQ(test::CountPixels(page, qRgb(255, 0, 0), QRect(200, 200, 100, 100)), 0);
+    EXPECT_GT(test::CountPixels(page, qRgb(0, 0, 255), QRect(210, 210, 180, 80)), 200);
     EXPECT_EQ(page.pixel(550, 450), White);
     EXPECT_EQ(page.pixel(650, 50), White);
     // Tab 6 has its own picture, and not tab 4's.
@@ -124,9 +101,9 @@ TEST_F(RenderCompositor, BadgeOnlyOnTheSlideShowPage) {
         for (int page = 1; page <= 8; ++page) {
             const QImage img = RenderPageImage(*doc, page, res);
             ASSERT_EQ(img.size(), frame);
-            const int inBadge = Count(img, badge, img.rect());
+            const int inBadge = test::CountPixels(img, badge, img.rect());
             if (page == 8) {
-                EXPECT_EQ(Count(img, badge, where), where.width() * where.height());
+                EXPECT_EQ(test::CountPixels(img, badge, where), where.width() * where.height());
                 EXPECT_EQ(inBadge, where.width() * where.height());
                 EXPECT_EQ(img.pixel(30, 30), qRgb(0, 0, 255)) << "page 8 shows page 1";
                 EXPECT_EQ(img.pixel(120, 120), White);
@@ -173,11 +150,8 @@ TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
     const QString blue = SolidFile(box, "blue.png", qRgb(0, 0, 255), QSize(300, 200));
     for (int tab = 1; tab <= 7; ++tab) {
         PlaceImage(*doc, tab, tab, tab % 2 ? red : blue, QRect(tab * 20, tab * 30, 300, 200));
-        TextElement& t = doc->Texts[size_t(tab)];
-        t = doc->Texts[0];
-        t.TabNo = tab;
-        t.Text = QStringLiteral("Page %1 of a résumé drawn on a worker thread").arg(tab);
-        t.Left = 50, t.Top = 400, t.Width = 600, t.Height = 100;
+        test::PlaceText(*doc, tab, tab, {50, 400, 600, 100},
+                        QStringLiteral("Page %1 of a résumé drawn on a worker thread").arg(tab));
     }
     std::vector<QImage> sequential;
     for (int page = 1; page <= 8; ++page)

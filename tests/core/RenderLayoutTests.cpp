@@ -73,9 +73,7 @@ TEST(RenderLayout, TabPictureRectangles) {
 TEST(RenderLayout, LayingOutStoresTheRecord) {
     test::Sandbox box;
     auto doc = box.newDocument();
-    QImage pic(1000, 500, QImage::Format_RGB32);
-    pic.fill(Qt::red);
-    ASSERT_TRUE(pic.save(box.path("wide.png")));
+    ASSERT_TRUE(test::Solid(1000, 500, qRgb(255, 0, 0)).save(box.path("wide.png")));
     doc->ScriptPath = box.path("project.qds");
 
     // Relative to the project's folder, blanks trimmed.
@@ -103,12 +101,8 @@ TEST(RenderLayout, IconRingAndBadge) {
     const IconRect want[9] = {{336, 236, 464, 364}, {610, 260, 690, 340}, {537, 437, 617, 517},
                               {360, 510, 440, 590}, {183, 437, 263, 517}, {110, 260, 190, 340},
                               {183, 83, 263, 163},  {360, 10, 440, 90},   {537, 83, 617, 163}};
-    for (int i = 0; i < 9; ++i) {
-        EXPECT_EQ(r[i].Left, want[i].Left) << i;
-        EXPECT_EQ(r[i].Top, want[i].Top) << i;
-        EXPECT_EQ(r[i].Right, want[i].Right) << i;
-        EXPECT_EQ(r[i].Bottom, want[i].Bottom) << i;
-    }
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(r[i], want[i]) << i;
     // An odd frame: the centre 512.5 rounds to 512, (1025 - 128) / 2 = 448.5 to 448.
     const IconRectTable odd = IconRects(QSize(1025, 768));
     EXPECT_EQ(odd[1].Left, 512 + 250 - 40);

@@ -16,25 +16,16 @@
 #include <sys/types.h>
 
 using namespace zentor;
+using test::Near;
+using test::Solid;
 
 namespace {
-
-QImage Solid(int w, int h, QRgb color) {
-    QImage img(w, h, QImage::Format_RGB32);
-    img.fill(color);
-    return img;
-}
-
-bool Near(QRgb a, QRgb b, int tol = 6) {
-    return std::abs(qRed(a) - qRed(b)) <= tol && std::abs(qGreen(a) - qGreen(b)) <= tol &&
-           std::abs(qBlue(a) - qBlue(b)) <= tol;
-}
 
 // Every pixel within `tol` of `color`.
 bool AllNear(const QImage& img, QRgb color, int tol = 6) {
     for (int y = 0; y < img.height(); ++y)
         for (int x = 0; x < img.width(); ++x)
-            if (!Near(img.pixel(x, y), color, tol))
+            if (!test::Near(img.pixel(x, y), color, tol))
                 return false;
     return true;
 }

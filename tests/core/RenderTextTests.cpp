@@ -1,3 +1,5 @@
+#include "TestSupport.h"
+
 #include "render/TextDraw.h"
 
 #include <QImage>
@@ -7,6 +9,7 @@
 #include <gtest/gtest.h>
 
 using namespace zentor;
+using test::CountPixels;
 
 namespace {
 
@@ -45,14 +48,6 @@ QRect Ink(const QImage& img, QRgb background = Grey) {
             if (img.pixel(x, y) != background)
                 r |= QRect(x, y, 1, 1);
     return r;
-}
-
-int CountPixels(const QImage& img, QRgb color) {
-    int n = 0;
-    for (int y = 0; y < img.height(); ++y)
-        for (int x = 0; x < img.width(); ++x)
-            n += img.pixel(x, y) == color;
-    return n;
 }
 
 } // namespace

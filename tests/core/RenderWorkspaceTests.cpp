@@ -17,9 +17,7 @@ namespace {
 constexpr QRgb White = 0xFFFFFFFFu;
 
 QImage Solid(QSize size, QRgb color) {
-    QImage img(size, QImage::Format_RGB32);
-    img.fill(color);
-    return img;
+    return test::Solid(size.width(), size.height(), color);
 }
 
 // Distinct colours for the built-in pictures: slot i is (i * 20, 100, 200 - i * 10).
@@ -48,23 +46,15 @@ struct RenderWorkspace : ::testing::Test {
     }
 };
 
-bool Near(QRgb a, QRgb b, int tol = 8) {
-    return std::abs(qRed(a) - qRed(b)) <= tol && std::abs(qGreen(a) - qGreen(b)) <= tol &&
-           std::abs(qBlue(a) - qBlue(b)) <= tol;
-}
-
 } // namespace
 
 TEST_F(RenderWorkspace, ContentTabLaysOutItsPictureAndMarksObjects) {
     ImageElement& pic = doc->Tabs[5].Picture;
     pic.FileName = QStringLiteral(" ") + file("tab.png", qRgb(0, 0, 255), {400, 300});
     pic.PicAlign = 2;
-    ImageElement& img = doc->Images[4];
-    img = doc->Images[0];
-    img.TabNo = 5;
+    ImageElement& img = test::PlaceImage(*doc, 4, 5, {10, 10, 50, 50},
+                                         file("obj.png", qRgb(255, 0, 0)) + QStringLiteral("   "));
     img.Reserved = 7;
-    img.FileName = file("obj.png", qRgb(255, 0, 0)) + QStringLiteral("   ");
-    img.Left = 10, img.Top = 10, img.Width = 50, img.Height = 50;
     // An image object whose file is gone keeps its record changes and draws nothing.
     ImageElement& gone = doc->Images[6];
     gone = img;
@@ -100,8 +90,8 @@ TEST_F(RenderWorkspace, SlideShowTabShowsTheBackground) {
     // Empty: the default picture beside the program.
     doc->Header.BackPicture.clearToNul();
     const QImage ws = PaintWorkspace(*doc, 8, 0, res, ctx);
-    EXPECT_TRUE(Near(ws.pixel(400, 300), qRgb(0, 90, 0)));
-    EXPECT_TRUE(Near(ws.pixel(0, 0), qRgb(0, 90, 0)));
+    EXPECT_TRUE(test::Near(ws.pixel(400, 300), qRgb(0, 90, 0), 8));
+    EXPECT_TRUE(test::Near(ws.pixel(0, 0), qRgb(0, 90, 0), 8));
     EXPECT_EQ(doc->Header.BackPicture.raw(), QString(256, QLatin1Char(' ')));
 }
 
@@ -117,7 +107,7 @@ TEST_F(RenderWorkspace, ProfilePageRingCaptionAndIcons) {
     // The logo inside the border, the border's rim around it, the background beyond.
     EXPECT_EQ(ws.pixel(400, 300), ResColor(ResLogo));
     EXPECT_EQ(ws.pixel(400 - 70, 300), ResColor(ResBorder));
-    EXPECT_TRUE(Near(ws.pixel(20, 20), qRgb(0, 90, 0)));
+    EXPECT_TRUE(test::Near(ws.pixel(20, 20), qRgb(0, 90, 0), 8));
 
     // The caption: names by default, the hovered tab's name instead; white on the background.
     const QRect caption(0, 380, 800, 24);

@@ -3,8 +3,12 @@
 #include "edit/EditorView.h"
 #include "editor/PropertyPanes.h"
 
+#include <gtest/gtest.h>
+
 #include <QMap>
 #include <QStackedWidget>
+
+#include <array>
 
 namespace zentor::test {
 
@@ -56,6 +60,24 @@ public:
     void showSettings() override {}
     void showAbout() override {}
     void openUrl(const QString&) override {}
+};
+
+// The named child of a window or dialog; a missing one fails the test.
+template <typename T> T* Find(QWidget& w, const char* name) {
+    T* c = w.findChild<T*>(QLatin1String(name));
+    EXPECT_NE(c, nullptr) << name;
+    return c;
+}
+
+// Five bare pane widgets under one host, as the main window's property area gives them.
+struct PaneHost {
+    QWidget host;
+    std::array<QWidget*, 5> panes{};
+    PaneHost() {
+        for (auto& p : panes)
+            p = new QWidget(&host);
+    }
+    QWidget& pane(int kind) { return *panes[size_t(kind)]; }
 };
 
 } // namespace zentor::test

@@ -22,8 +22,7 @@ QByteArray EncodeJpeg(const QImage& image, int quality) {
 }
 
 QByteArray PictureBytes(int width, int height, QRgb colour, const char* format) {
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(colour);
+    const QImage image = Solid(width, height, colour);
     QByteArray out;
     QBuffer buffer(&out);
     buffer.open(QIODevice::WriteOnly);
@@ -46,14 +45,6 @@ std::optional<QByteArray> FakePictures::renderPage(const Document& doc, int page
     QImage image(doc.Header.FrameWidth, doc.Header.FrameHeight, QImage::Format_RGB32);
     image.fill(qRgb(page * 30, 255 - page * 30, 128));
     return EncodeJpeg(image);
-}
-
-int32_t Int32At(const QByteArray& bytes, qsizetype offset) {
-    if (offset < 0 || offset + 4 > bytes.size())
-        return INT32_MIN;
-    const auto* p = reinterpret_cast<const uchar*>(bytes.constData() + offset);
-    return int32_t(uint32_t(p[0]) | uint32_t(p[1]) << 8 | uint32_t(p[2]) << 16 |
-                   uint32_t(p[3]) << 24);
 }
 
 int JpegQuality(const QByteArray& jpeg) {

@@ -27,9 +27,6 @@ QByteArray EncodeJpeg(const QImage& image, int quality = 95);
 // A picture file of the given size and colour drawn by the test.
 QByteArray PictureBytes(int width, int height, QRgb colour, const char* format = "PNG");
 
-// Little-endian 32-bit integer at a byte offset, read without the code under test.
-int32_t Int32At(const QByteArray& bytes, qsizetype offset);
-
 // The JPEG quality whose scaled standard luminance table equals the file's first
 // quantisation table; -1 when none does or the file has none.
 int JpegQuality(const QByteArray& jpeg);

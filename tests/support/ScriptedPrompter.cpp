@@ -13,37 +13,34 @@ ScriptedPrompter::Step make(ScriptedPrompter::Step::Kind kind, const QString& ti
     s.answer = answer;
     return s;
 }
+
+// A message box whose buttons, icon and default button are checked too.
+ScriptedPrompter::Step box(const QString& title, const QString& text, Prompter::Answer answer,
+                           Prompter::Buttons buttons, Prompter::Icon icon,
+                           Prompter::Answer defaultAnswer) {
+    ScriptedPrompter::Step s = make(ScriptedPrompter::Step::Ask, title, text, answer);
+    s.buttons = buttons;
+    s.icon = icon;
+    s.defaultAnswer = defaultAnswer;
+    s.checkButtons = true;
+    return s;
+}
 } // namespace
 
 ScriptedPrompter& ScriptedPrompter::expectQuestion(const QString& title, const QString& text,
                                                    Answer answer) {
-    Step s = make(Step::Ask, title, text, answer);
-    s.buttons = Buttons::YesNo;
-    s.icon = Icon::Question;
-    s.defaultAnswer = Answer::No;
-    s.checkButtons = true;
-    steps_.append(s);
+    steps_.append(box(title, text, answer, Buttons::YesNo, Icon::Question, Answer::No));
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectYesNoCancel(const QString& title, const QString& text,
                                                       Answer answer) {
-    Step s = make(Step::Ask, title, text, answer);
-    s.buttons = Buttons::YesNoCancel;
-    s.icon = Icon::Question;
-    s.defaultAnswer = Answer::No;
-    s.checkButtons = true;
-    steps_.append(s);
+    steps_.append(box(title, text, answer, Buttons::YesNoCancel, Icon::Question, Answer::No));
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectWarning(const QString& title, const QString& text) {
-    Step s = make(Step::Ask, title, text, Answer::Ok);
-    s.buttons = Buttons::Ok;
-    s.icon = Icon::Exclamation;
-    s.defaultAnswer = Answer::Ok;
-    s.checkButtons = true;
-    steps_.append(s);
+    steps_.append(box(title, text, Answer::Ok, Buttons::Ok, Icon::Exclamation, Answer::Ok));
     return *this;
 }
 

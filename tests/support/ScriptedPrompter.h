@@ -6,6 +6,10 @@
 #include <QString>
 #include <QStringList>
 
+// Every scripted step was used, and nothing else was asked.
+#define EXPECT_PROMPTS_DONE(p)                                                                     \
+    EXPECT_TRUE((p).failures().isEmpty()) << (p).failures().join('\n').toStdString()
+
 namespace zentor::test {
 
 // A prompter that answers from a script and records what it was asked. Each expectation
