@@ -56,8 +56,9 @@ TEST(FrmSet, OpensOnTheHeader) {
         EXPECT_EQ(Find<QLineEdit>(dlg, "TxtWidth")->isEnabled(), custom);
         EXPECT_EQ(Find<QLineEdit>(dlg, "TxtWidth")->text(), QString::number(r.w));
         EXPECT_EQ(Find<QLineEdit>(dlg, "TxtHeight")->text(), QString::number(r.h));
-        if (!custom)
+        if (!custom) {
             EXPECT_EQ(list->currentText(), r.row);
+        }
         EXPECT_EQ(Find<QSlider>(dlg, "SldBakMusicVol")->value(), r.volSlider);
         EXPECT_EQ(Find<QSlider>(dlg, "SdSpeed")->value(), r.speedSlider);
         EXPECT_EQ(Find<QLineEdit>(dlg, "TxtMusic")->text(), "/music/a.mp3");
