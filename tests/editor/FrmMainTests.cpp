@@ -422,6 +422,15 @@ TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
     prompter.expectFile(true, "Save QDV Script File", ScriptFilter, QString());
     EXPECT_TRUE(window->close());
 
+    // A save the disk refuses keeps the window open, so the work is not lost.
+    window->show();
+    const QString nowhere = sandbox.path("no/such/folder/cv.qds");
+    prompter.expectYesNoCancel(title, text, Prompter::Answer::Yes);
+    prompter.expectFile(true, "Save QDV Script File", ScriptFilter, nowhere);
+    prompter.expectWarning("Save QDV Script File", "Can't save file : " + nowhere);
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
+
     // Yes with a path saves first; the File menu's Exit asks the same.
     window->show();
     const QString path = sandbox.path("cv.qds");

@@ -140,6 +140,7 @@ bool Editor::save(bool alwaysAsk) {
         }
     }
     if (!SaveScript(doc_, path)) {
+        saveFailed_ = true;
         view_.setPointer(EditorView::PointerTarget::Window, EditorView::Pointer::Normal);
         prompter_.warn(SaveTitle, QStringLiteral("Can't save file : ") + path);
     }

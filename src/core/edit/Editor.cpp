@@ -30,15 +30,17 @@ void Editor::formLoad() {
 }
 
 bool Editor::queryUnload() {
-    // Asked whatever the dirty flag says; after Yes the window closes even when the save
-    // was abandoned.
+    // Asked whatever the dirty flag says; after Yes the window closes even when the user
+    // abandoned the save. A save the disk refused (the user was just told so) keeps the
+    // window open: closing then would lose the work.
     const Prompter::Answer a = prompter_.ask(
         QStringLiteral("Exit Vitara Zentor"),
         QStringLiteral("Please save the work before exit. Exit with save?"),
         Prompter::Buttons::YesNoCancel, Prompter::Icon::Question, Prompter::Answer::No);
     if (a == Prompter::Answer::Yes) {
+        saveFailed_ = false;
         CommonModth(CmdSave);
-        return true;
+        return !saveFailed_;
     }
     return a == Prompter::Answer::No;
 }

@@ -110,6 +110,7 @@ private:
     Prompter& prompter_;
     EditorState st_;
     Generator generate_;
+    bool saveFailed_ = false; // the last save could not be written
 };
 
 // The support page opened by the About menu's "&Help".
