@@ -80,13 +80,11 @@ TEST(EditGeometry, HoverUsesTheDrawnRingAndExcludesEdges) {
     // 400.5 and 300.5 round to the even 400 and 300: an odd frame has the same ring.
     const IconRectTable drawn = IconRects(QSize(800, 600));
     for (const QSize frame : {QSize(800, 600), QSize(801, 601)}) {
-        const auto ring = IconRingRects(frame.width(), frame.height());
+        const auto ring = IconRects(frame);
         for (int i = 0; i < 9; ++i)
-            EXPECT_EQ(ring[i],
-                      (EdgeRect{drawn[i].Left, drawn[i].Top, drawn[i].Right, drawn[i].Bottom}))
-                << i;
+            EXPECT_EQ(ring[i], drawn[i]) << i;
     }
-    const auto r = IconRingRects(800, 600);
+    const auto r = IconRects(QSize(800, 600));
     const struct {
         double x, y;
         int icon;

@@ -286,13 +286,13 @@ TEST_F(WindowTest, TheInPlaceEditorStoresItsTextWhenLeft) {
 }
 
 TEST_F(WindowTest, TheProfileRingShowsAHandAndLeadsToItsPage) {
-    const EdgeRect icon = state().IconRects[3];
-    const QPoint over((icon.left + icon.right) / 2, (icon.top + icon.bottom) / 2);
+    const IconRect icon = state().IconRects[3];
+    const QPoint over((icon.Left + icon.Right) / 2, (icon.Top + icon.Bottom) / 2);
     QTest::mouseMove(ws, over);
     EXPECT_EQ(state().HoverIcon, 3);
     EXPECT_EQ(ws->cursor().shape(), Qt::PointingHandCursor);
     // On the icon's very edge the pointer is not over it.
-    QTest::mouseMove(ws, QPoint(icon.left, over.y()));
+    QTest::mouseMove(ws, QPoint(icon.Left, over.y()));
     EXPECT_EQ(state().HoverIcon, 0);
     EXPECT_NE(ws->cursor().shape(), Qt::PointingHandCursor);
 

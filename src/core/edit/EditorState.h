@@ -2,6 +2,7 @@
 
 #include "edit/Geometry.h"
 #include "edit/ObjectList.h"
+#include "render/IconRing.h"
 
 #include <QStringList>
 
@@ -18,7 +19,7 @@ struct EditorState {
     std::array<ObjectRef, ObjectMapRows> ObjectMap{};
     int CurrentRow = -1; // the list's selected row, -1 none
     int HoverIcon = 0;   // ring icon under the pointer on the profile page, 0 none
-    std::array<EdgeRect, 9> IconRects{};
+    IconRectTable IconRects{};
     bool Busy = false; // while an object is being loaded into the panel
 
     IntRect Frame{100, 100, 100, 100}; // the selection frame

@@ -12,16 +12,6 @@ struct IntRect {
     friend bool operator==(const IntRect&, const IntRect&) = default;
 };
 
-// A rectangle by its edges (left, top, right, bottom), as the profile page's icon ring
-// keeps them.
-struct EdgeRect {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-    friend bool operator==(const EdgeRect&, const EdgeRect&) = default;
-};
-
 // A point in workspace pixels.
 struct IntPoint {
     int x = 0;

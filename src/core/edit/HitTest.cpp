@@ -1,7 +1,5 @@
 #include "edit/HitTest.h"
 
-#include "render/IconRing.h"
-
 #include <cmath>
 
 namespace zentor {
@@ -42,19 +40,10 @@ int SelectByMouse(const Document& doc, const std::array<ObjectRef, ObjectMapRows
     return row < 0 ? 0 : row;
 }
 
-std::array<EdgeRect, 9> IconRingRects(int frameW, int frameH) {
-    // The ring is laid out once, by the painter that draws it.
-    const IconRectTable drawn = IconRects(QSize(frameW, frameH));
-    std::array<EdgeRect, 9> rects{};
-    for (size_t i = 0; i < rects.size(); ++i)
-        rects[i] = {drawn[i].Left, drawn[i].Top, drawn[i].Right, drawn[i].Bottom};
-    return rects;
-}
-
-int HoverIconAt(const std::array<EdgeRect, 9>& rects, double x, double y) {
+int HoverIconAt(const IconRectTable& rects, double x, double y) {
     for (int i = 1; i <= 8; ++i) {
-        const EdgeRect& r = rects[i];
-        if (r.left < x && x < r.right && r.top < y && y < r.bottom)
+        const IconRect& r = rects[i];
+        if (r.Left < x && x < r.Right && r.Top < y && y < r.Bottom)
             return i;
     }
     return 0;

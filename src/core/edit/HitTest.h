@@ -3,6 +3,7 @@
 #include "edit/Geometry.h"
 #include "edit/ObjectList.h"
 #include "model/Document.h"
+#include "render/IconRing.h"
 
 #include <array>
 
@@ -16,12 +17,8 @@ namespace zentor {
 int SelectByMouse(const Document& doc, const std::array<ObjectRef, ObjectMapRows>& map,
                   int currentTab, double x, double y);
 
-// The profile page's icon ring for a frame of frameW x frameH: rectangle 0 the 128 x 128
-// centre picture, 1..8 the 80 x 80 tab icons on a circle of radius 250, icon 1 right of
-// the centre, then clockwise (y grows downward).
-std::array<EdgeRect, 9> IconRingRects(int frameW, int frameH);
-
-// The ring icon 1..8 under (x, y), edges exclusive; 0 when none.
-int HoverIconAt(const std::array<EdgeRect, 9>& rects, double x, double y);
+// The ring icon 1..8 under (x, y) of the profile page's ring (as `IconRects` lays it out),
+// edges exclusive; 0 when none.
+int HoverIconAt(const IconRectTable& rects, double x, double y);
 
 } // namespace zentor
