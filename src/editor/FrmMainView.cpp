@@ -1,5 +1,4 @@
 // What FrmMain shows when the editor tells it to.
-#include "edit/WorkspaceLayout.h"
 #include "editor/FrmAbout.h"
 #include "editor/FrmMain.h"
 #include "editor/PropertyPanes.h"
@@ -172,13 +171,8 @@ void FrmMain::runFileCommand(FileCommand command) {
 }
 
 void FrmMain::showSettings() {
-    if (!panes_->showSettings(this))
-        return;
-    // A new frame size: the workspace takes it, centred, and the page is drawn again.
-    const int w = doc_.Header.FrameWidth;
-    const int h = doc_.Header.FrameHeight;
-    placeWorkspace({CentreOffset(picShow_->width(), w), CentreOffset(picShow_->height(), h), w, h});
-    editor_.RefreshTab(editor_.state().CurrentTab);
+    if (panes_->showSettings(this))
+        editor_.frameSizeChanged();
 }
 
 void FrmMain::showAbout() {

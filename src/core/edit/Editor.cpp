@@ -47,7 +47,7 @@ bool Editor::queryUnload() {
 
 void Editor::fillPage(int tab) {
     if (tab == ProfileTab)
-        st_.IconRects = IconRingRects(doc_.Header.FrameWidth, doc_.Header.FrameHeight);
+        st_.IconRects = IconRects(QSize(doc_.Header.FrameWidth, doc_.Header.FrameHeight));
     ObjectList list = BuildObjectList(doc_, tab);
     st_.Rows = list.rows;
     st_.ObjectMap = list.map;
@@ -180,6 +180,11 @@ void Editor::applyStripCaptions() {
         tab.Name = tab.Name.trimmed();
         view_.setStripCaption(i + 1, tab.Name.text());
     }
+}
+
+void Editor::frameSizeChanged() {
+    sizeAndCentreWorkspace();
+    RefreshTab(st_.CurrentTab);
 }
 
 void Editor::sizeAndCentreWorkspace() {

@@ -70,6 +70,10 @@ public:
     // Copies the frame's geometry into the selected object and the panel's boxes.
     void RefreshData();
 
+    // After the settings changed the frame size: the workspace takes it, centred, and the
+    // page is drawn again.
+    void frameSizeChanged();
+
     // --- Tab strip ---
     void stripClicked(); // after the user selected a strip tab
 
@@ -102,6 +106,8 @@ private:
     void insert(int kind);
     void step(bool next);
     void endingSteps(int index);
+    // A move of the selection frame starts: the pressed control shows the move pointer.
+    void beginMove(EditorView::PointerTarget target, IntPoint p);
     void moveFrameTo(IntPoint p);
 
     Document& doc_;

@@ -19,7 +19,11 @@ void Editor::workspaceMouseDown(MouseButton b, IntPoint p) {
     if (b == MouseButton::Right || !ContentTab(st_.CurrentTab) || st_.CurrentRow == 0)
         return;
     st_.WorkspaceMoving = true;
-    view_.setPointer(EditorView::PointerTarget::Workspace, EditorView::Pointer::Move);
+    beginMove(EditorView::PointerTarget::Workspace, p);
+}
+
+void Editor::beginMove(EditorView::PointerTarget target, IntPoint p) {
+    view_.setPointer(target, EditorView::Pointer::Move);
     st_.DragLeft = st_.Frame.Left;
     st_.DragTop = st_.Frame.Top;
     st_.CursorDown = p;
@@ -87,10 +91,7 @@ void Editor::frameMouseDown(MouseButton b, IntPoint p) {
         return;
     // No new hit test: the selected object moves even where another lies on top of it.
     st_.FrameMoving = true;
-    view_.setPointer(EditorView::PointerTarget::Frame, EditorView::Pointer::Move);
-    st_.DragLeft = st_.Frame.Left;
-    st_.DragTop = st_.Frame.Top;
-    st_.CursorDown = p;
+    beginMove(EditorView::PointerTarget::Frame, p);
 }
 
 void Editor::frameMouseMove(IntPoint p) {
