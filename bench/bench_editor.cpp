@@ -3,7 +3,6 @@
 #include "BenchSupport.h"
 
 #include "edit/Editor.h"
-#include "edit/Prompter.h"
 #include "editor/FrmMain.h"
 #include "model/DefaultDocument.h"
 #include "render/PictureCache.h"
@@ -22,19 +21,6 @@
 using namespace zentor;
 
 namespace {
-
-// Answers every question with No and every file dialog with nothing.
-class QuietPrompter : public Prompter {
-public:
-    Answer ask(const QString&, const QString&, Buttons, Icon, Answer) override {
-        return Answer::No;
-    }
-    QString chooseFile(bool, const QString&, const QString&, const QString&, const QString&,
-                       const QString&) override {
-        return QString();
-    }
-    uint32_t chooseColor() override { return 0; }
-};
 
 bench::Workspace& workspace() {
     static bench::Workspace w;
@@ -87,7 +73,7 @@ std::unique_ptr<Document> stressDocument() {
 
 struct StressWindow {
     const ResImages res = ResImages::load();
-    QuietPrompter prompter;
+    bench::QuietPrompter prompter;
     std::unique_ptr<Document> doc = stressDocument();
     FrmMain window{*doc, workspace().ctx, prompter, res};
     QWidget* ws = window.findChild<QWidget*>(QStringLiteral("PicWorkSpace"));
@@ -108,7 +94,7 @@ struct StressWindow {
 void BM_WindowStartup(benchmark::State& state) {
     for (auto _ : state) {
         const ResImages res = ResImages::load();
-        QuietPrompter prompter;
+        bench::QuietPrompter prompter;
         auto doc = std::make_unique<Document>();
         NewDocument(*doc, workspace().ctx);
         auto window = std::make_unique<FrmMain>(*doc, workspace().ctx, prompter, res);

@@ -4,7 +4,6 @@
 
 #include "BenchSupport.h"
 
-#include "edit/Prompter.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
 #include "model/DefaultDocument.h"
@@ -25,18 +24,6 @@
 using namespace zentor;
 
 namespace {
-
-class SilentPrompter : public Prompter {
-public:
-    Answer ask(const QString&, const QString&, Buttons, Icon, Answer) override {
-        return Answer::Ok;
-    }
-    QString chooseFile(bool, const QString&, const QString&, const QString&, const QString&,
-                       const QString&) override {
-        return QString();
-    }
-    uint32_t chooseColor() override { return 0; }
-};
 
 // A photo-like picture: gradients, shapes and noise, so that JPEG has real work to do.
 QImage Photo(int w, int h, int seed) {
@@ -136,7 +123,7 @@ Stress& Workload() {
 
 void BM_GeneratePackage(benchmark::State& state) {
     Stress& s = Workload();
-    SilentPrompter prompter;
+    bench::QuietPrompter prompter;
     const QString out = s.ws.path(QStringLiteral("cv.exe"));
     for (auto _ : state) {
         // A fresh renderer each time: nothing decoded in an earlier round is reused.
