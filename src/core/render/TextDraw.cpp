@@ -6,7 +6,10 @@
 #include <QFontInfo>
 #include <QGlyphRun>
 #include <QHash>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
+#include <QRawFont>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -116,6 +119,14 @@ QFont MakeTextFont(const QString& family, int points, int style, int hint) {
 void DrawFontText(QPainter& g, const QString& text, double left, double top, double width,
                   double height, const QString& fontName, int size, int style, int align,
                   int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset) {
+    DrawLinkedText(g, text, left, top, width, height, fontName, size, style, align, lineAlign,
+                   color, shadow, hint, shadowOffset, QString());
+}
+
+void DrawLinkedText(QPainter& g, const QString& text, double left, double top, double width,
+                    double height, const QString& fontName, int size, int style, int align,
+                    int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset,
+                    const QString& href) {
     QString s = RightTrimBlanks(text);
     if (s.isEmpty() || size < 1 || !FontFamilyAvailable(fontName))
         return;
@@ -136,6 +147,15 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     option.setWrapMode(wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
     layout.setTextOption(option);
     layout.setCacheEnabled(true);
+    if (!href.isEmpty()) {
+        // A PDF turns text drawn with an anchor format into a link over it.
+        QTextLayout::FormatRange link;
+        link.start = 0;
+        link.length = int(s.size());
+        link.format.setAnchor(true);
+        link.format.setAnchorHref(href);
+        layout.setFormats({link});
+    }
     layout.beginLayout();
     double lineY = 0;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
@@ -175,8 +195,12 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
                           (clipY && (inked.top() < 0 || inked.bottom() > h));
     // Plain text: the glyphs are taken from the layout once and drawn by every pass. Glyph
     // runs misplace underline and strikeout, so decorated text is drawn by the layout.
-    const bool decorated = style & 12;
-    const QList<QGlyphRun> runs = decorated ? QList<QGlyphRun>() : layout.glyphRuns();
+    const bool decorated = (style & 12) || !href.isEmpty();
+    // In a PDF, text drawn as text is read back by every reader: the shadow passes are drawn
+    // as glyph outlines there, so that each word is found once.
+    const bool vectorText = g.paintEngine() && g.paintEngine()->type() == QPaintEngine::Pdf;
+    const QList<QGlyphRun> runs =
+        decorated && !(vectorText && shadow != 0) ? QList<QGlyphRun>() : layout.glyphRuns();
     g.save();
     g.setRenderHint(QPainter::TextAntialiasing, !noAA);
     auto draw = [&](QPointF at) {
@@ -187,10 +211,22 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
         for (const QGlyphRun& run : runs)
             g.drawGlyphRun(at, run);
     };
-    auto pass = [&](uint32_t argb, double ox, double oy) {
+    auto outline = [&](QPointF at) {
+        QPainterPath path;
+        for (const QGlyphRun& run : runs) {
+            const QRawFont raw = run.rawFont();
+            const QList<quint32> glyphs = run.glyphIndexes();
+            const QList<QPointF> at0 = run.positions();
+            for (qsizetype i = 0; i < glyphs.size() && i < at0.size(); ++i)
+                path.addPath(raw.pathForGlyph(glyphs[i]).translated(at + at0[i]));
+        }
+        g.fillPath(path, g.pen().color());
+    };
+    auto pass = [&](uint32_t argb, double ox, double oy, bool asOutline = false) {
         g.setPen(QColor::fromRgba(argb));
+        const auto paint = [&](QPointF at) { asOutline ? outline(at) : draw(at); };
         if (!needClip) {
-            draw(QPointF(x + ox, y + oy + dy));
+            paint(QPointF(x + ox, y + oy + dy));
             return;
         }
         QRectF clip(x + ox, y + oy, wrap ? w : 2e7, clipY ? h : 2e7);
@@ -200,14 +236,14 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
             clip.moveTop(-1e7);
         g.save();
         g.setClipRect(clip, Qt::IntersectClip);
-        draw(QPointF(x + ox, y + oy + dy));
+        paint(QPointF(x + ox, y + oy + dy));
         g.restore();
     };
     if (shadow != 0) {
         const uint32_t shadowColor = ShadowColorFor(color);
-        pass(shadowColor, shadowOffset, shadowOffset);
+        pass(shadowColor, shadowOffset, shadowOffset, vectorText);
         // Once more unshifted: it thickens the glyph edges under the text.
-        pass(shadowColor, 0, 0);
+        pass(shadowColor, 0, 0, vectorText);
     }
     pass(color, 0, 0);
     g.restore();
