@@ -2,22 +2,32 @@
 
 #include "edit/Prompter.h"
 #include "export/PdfExport.h"
+#include "export/WebPageExport.h"
+#include "model/Document.h"
 
 #include <QFileInfo>
+#include <QSaveFile>
 
 namespace zentor {
 
 bool WriteExport(ExportKind kind, const Document& doc, const QString& path, const ResImages& res,
                  const ProcessContext& ctx, QString* error) {
-    switch (kind) {
-    case ExportKind::Pdf:
-        return ExportPdf(doc, path, res, ctx, error);
-    case ExportKind::WebPage:
-        break;
-    }
-    if (error)
-        *error = QStringLiteral("this export is not available");
-    return false;
+    const auto fail = [&](const QString& why) {
+        if (error)
+            *error = why;
+        return false;
+    };
+    const QByteArray bytes =
+        kind == ExportKind::Pdf ? RenderPdf(doc, res, ctx) : RenderWebPage(doc, res, ctx);
+    if (bytes.isEmpty())
+        return fail(QStringLiteral("the frame size %1 x %2 cannot be drawn")
+                        .arg(doc.Header.FrameWidth)
+                        .arg(doc.Header.FrameHeight));
+    // Written beside the target and renamed at the end: a failure leaves no file behind.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return fail(QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
+    return true;
 }
 
 bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const ResImages& res,

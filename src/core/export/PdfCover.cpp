@@ -1,5 +1,7 @@
 #include "export/PdfCover.h"
 
+#include "export/Contacts.h"
+
 #include "io/FileUtil.h"
 #include "model/DefaultDocument.h"
 #include "model/Document.h"
@@ -11,7 +13,6 @@
 #include "render/TextDraw.h"
 
 #include <QPainter>
-#include <QUrl>
 
 namespace zentor {
 namespace {
@@ -22,25 +23,7 @@ constexpr int NameHeight = 48;
 constexpr int LineHeight = 28;
 const QString CoverFont = QStringLiteral("Arial");
 
-struct CoverLine {
-    QString text;
-    QString href;
-};
-
 } // namespace
-
-QString PersonName(const Document& doc) {
-    return (doc.Profile.FirstName.trimNull() + QLatin1Char(' ') + doc.Profile.LastName.trimNull())
-        .trimmed();
-}
-
-QString WebsiteHref(const QString& website) {
-    const QString site = website.trimmed();
-    if (site.isEmpty())
-        return QString();
-    const QUrl url(site);
-    return url.scheme().isEmpty() ? QStringLiteral("http://") + site : site;
-}
 
 void PaintCover(QPainter& p, const Document& doc, const ResImages& res, const ProcessContext& ctx,
                 PictureCache* cache) {
@@ -54,18 +37,7 @@ void PaintCover(QPainter& p, const Document& doc, const ResImages& res, const Pr
                     back.isEmpty() ? ctx.defaultBackPicture() : ResolvePath(doc.ScriptPath, back),
                     QRect(QPoint(0, 0), frame), cache);
 
-    const ProfileRecord& pr = doc.Profile;
-    const QString email = pr.Email.trimNull();
-    const QString site = pr.Website.trimNull();
-    const QString place =
-        (pr.Address.trimNull() + QLatin1Char(' ') + pr.PostCode.trimNull()).trimmed();
-    QList<CoverLine> lines;
-    for (const CoverLine& line :
-         {CoverLine{pr.Phone.trimNull(), {}},
-          CoverLine{email, email.isEmpty() ? QString() : QStringLiteral("mailto:") + email},
-          CoverLine{site, WebsiteHref(site)}, CoverLine{place, {}}})
-        if (!line.text.isEmpty())
-            lines.append(line);
+    const QList<ContactLine> lines = ContactLines(doc);
 
     // The icon, the name and the lines form one block centred on the page.
     const int block = BorderSize + 16 + NameHeight + 12 + LineHeight * int(lines.size());
@@ -73,7 +45,7 @@ void PaintCover(QPainter& p, const Document& doc, const ResImages& res, const Pr
     const int cx = RoundHalfEven(w / 2.0);
     DrawStretched(p, res.image(ResBorder), QRect(cx - BorderSize / 2, top, BorderSize, BorderSize));
     const QRect iconBox(cx - IconSize / 2, top + (BorderSize - IconSize) / 2, IconSize, IconSize);
-    const QString icon = pr.UserIcon.trimNull();
+    const QString icon = doc.Profile.UserIcon.trimNull();
     if (icon.isEmpty() || !DrawPictureFile(p, ResolvePath(doc.ScriptPath, icon), iconBox, cache))
         DrawStretched(p, res.image(ResLogo), iconBox);
 
@@ -81,7 +53,7 @@ void PaintCover(QPainter& p, const Document& doc, const ResImages& res, const Pr
     DrawFontText(p, PersonName(doc), 0, y, w, NameHeight, CoverFont, 28, 1, 1, 1, 0xFFFFFFFFu, -1,
                  4, 1);
     y += NameHeight + 12;
-    for (const CoverLine& line : lines) {
+    for (const ContactLine& line : lines) {
         DrawLinkedText(p, line.text, 0, y, w, LineHeight, CoverFont, 14, 0, 1, 1, 0xFFFFFFFFu, -1,
                        4, 1, line.href);
         y += LineHeight;

@@ -11,12 +11,6 @@ struct ProcessContext;
 class PictureCache;
 class ResImages;
 
-// The person's name as the cover and the metadata show it: first and last name, trimmed.
-QString PersonName(const Document& doc);
-
-// The address a web site field links to: as typed when it names a scheme, else http://.
-QString WebsiteHref(const QString& website);
-
 // The first page of the PDF, frame-sized: the background picture over the frame, the user
 // icon in its border, the person's name, then phone, e-mail (a mailto: link), web site (a
 // link), and address with post code, each line only when filled.

@@ -1,5 +1,6 @@
 #include "export/PdfExport.h"
 
+#include "export/Contacts.h"
 #include "export/PdfCover.h"
 #include "model/DefaultDocument.h"
 #include "model/Document.h"
@@ -10,7 +11,6 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace zentor {
 namespace {
@@ -93,24 +93,6 @@ QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessCon
     }
     AddPdfAuthor(bytes, PersonName(doc));
     return bytes;
-}
-
-bool ExportPdf(const Document& doc, const QString& path, const ResImages& res,
-               const ProcessContext& ctx, QString* error) {
-    const auto fail = [&](const QString& why) {
-        if (error)
-            *error = why;
-        return false;
-    };
-    const QByteArray pdf = RenderPdf(doc, res, ctx);
-    if (pdf.isEmpty())
-        return fail(QStringLiteral("the frame size %1 x %2 cannot be drawn")
-                        .arg(doc.Header.FrameWidth)
-                        .arg(doc.Header.FrameHeight));
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(pdf) != pdf.size() || !file.commit())
-        return fail(QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
-    return true;
 }
 
 } // namespace zentor

@@ -17,11 +17,6 @@ class ResImages;
 // Vitara Zentor. Empty when the frame cannot be drawn.
 QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx);
 
-// RenderPdf written to `path` through a file beside it, renamed at the end: a failed export
-// leaves no file behind and an old one untouched. On failure says why in `error`.
-bool ExportPdf(const Document& doc, const QString& path, const ResImages& res,
-               const ProcessContext& ctx, QString* error = nullptr);
-
 // Adds an author to the information dictionary of a PDF that has a classic cross-reference
 // table, moving the offsets after it. Returns false and leaves `pdf` alone when it has no
 // such dictionary or table.
