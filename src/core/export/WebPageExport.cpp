@@ -10,7 +10,7 @@
 #include "render/PageCompositor.h"
 #include "render/PictureCache.h"
 #include "render/ResImages.h"
-#include "render/TextDraw.h"
+#include "render/TextLayout.h"
 #include "render/WorkspacePainter.h"
 
 #include <QJsonArray>
@@ -32,6 +32,39 @@ QJsonObject Box(int left, int top, int width, int height) {
     return QJsonObject{{"left", left}, {"top", top}, {"width", width}, {"height", height}};
 }
 
+// A text as lines of real text standing where the page draws them (LayoutTextBox), for the
+// transparent layer over the page picture; null when nothing is drawn.
+QJsonObject TextLayer(const QString& text, double left, double top, double width, double height,
+                      const QString& font, int size, int style, int align, int lineAlign) {
+    const TextBoxLayout layout =
+        LayoutTextBox(text, left, top, width, height, font, size, style, align, lineAlign);
+    if (layout.lines.empty())
+        return QJsonObject();
+    QString shown = text;
+    while (shown.endsWith(QLatin1Char(' ')))
+        shown.chop(1);
+    QJsonArray lines;
+    for (const TextBoxLine& line : layout.lines) {
+        const QString words = shown.mid(line.start, line.length).trimmed();
+        if (words.isEmpty())
+            continue;
+        lines.append(QJsonObject{{"text", words},
+                                 {"left", line.rect.left()},
+                                 {"top", line.rect.top()},
+                                 {"width", line.rect.width()},
+                                 {"height", line.rect.height()}});
+    }
+    // The box clips what the page clips.
+    QJsonObject o =
+        width > 0 && height > 0 ? Box(int(left), int(top), int(width), int(height)) : QJsonObject();
+    o.insert("font", font);
+    o.insert("px", size * 96.0 / 72.0);
+    o.insert("bold", bool(style & 1));
+    o.insert("italic", bool(style & 2));
+    o.insert("lines", lines);
+    return o;
+}
+
 // The page's texts and picture objects in drawing order, for the layer over its picture.
 QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg) {
     const int tab = page == SlideShowTab ? 1 : page;
@@ -46,21 +79,13 @@ QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg) {
     }
     for (int i = 1; i <= MaxTexts; ++i) {
         const TextElement& t = doc.Texts[size_t(i)];
-        const QString text = t.Text.text();
-        if (t.TabNo != tab || text.isEmpty() || t.FontSize < 1)
+        if (t.TabNo != tab)
             continue;
-        // The same pixel size and line room as the page's own text drawing.
-        const QFont font = MakeTextFont(t.FontName.trimNull(), t.FontSize, t.FontStyle, t.TextHint);
-        QJsonObject o = Box(t.Left, t.Top, t.Width, t.Height);
-        o.insert("text", text);
-        o.insert("font", t.FontName.trimNull());
-        o.insert("px", font.pixelSize());
-        o.insert("pad", font.pixelSize() / 6.0);
-        o.insert("bold", bool(t.FontStyle & 1));
-        o.insert("italic", bool(t.FontStyle & 2));
-        o.insert("align", t.Align);
-        o.insert("valign", t.LineAlign);
-        texts.append(o);
+        const QJsonObject o =
+            TextLayer(t.Text.text(), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
+                      t.FontSize, t.FontStyle, t.Align, t.LineAlign);
+        if (!o.isEmpty())
+            texts.append(o);
     }
     const QString name = page == SlideShowTab ? QStringLiteral("Slide Show")
                                               : doc.Tabs[size_t(page)].Name.trimNull();
@@ -82,18 +107,11 @@ QJsonObject HomeLayer(const Document& doc, const ResImages& res, const ProcessCo
     // The caption under the centre picture, as the home picture draws it, and the contacts
     // below it, between the ring's lower icons.
     const int captionTop = int(std::lround(frame.height() / 2.0)) + 80;
-    QJsonArray texts{QJsonObject{{"text", PersonName(doc)},
-                                 {"left", 0},
-                                 {"top", captionTop},
-                                 {"width", frame.width()},
-                                 {"height", 24},
-                                 {"font", "Arial"},
-                                 {"px", 16},
-                                 {"pad", 16 / 6.0},
-                                 {"bold", false},
-                                 {"italic", false},
-                                 {"align", 1},
-                                 {"valign", 0}}};
+    QJsonArray texts;
+    const QJsonObject caption = TextLayer(PersonName(doc), 0, captionTop, frame.width(), 24,
+                                          QStringLiteral("Arial"), 12, 0, 1, 0);
+    if (!caption.isEmpty())
+        texts.append(caption);
     const int contactsWidth = 300;
     return QJsonObject{
         {"name", PersonName(doc)},

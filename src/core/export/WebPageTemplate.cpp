@@ -18,10 +18,10 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
 .screen.shown { opacity: 1; visibility: visible; }
 .screen > img.page { position: absolute; left: 0; top: 0; width: 100%; height: 100%;
   user-select: none; }
-.text { position: absolute; display: flex; flex-direction: column; overflow: hidden;
-  box-sizing: border-box; white-space: pre-wrap; overflow-wrap: anywhere; color: transparent;
-  line-height: 1.15; margin: 0; }
-.text::selection { background: rgba(60, 120, 255, 0.35); color: transparent; }
+.text { position: absolute; left: 0; top: 0; overflow: hidden; color: transparent; }
+.text:not([style*="width"]) { overflow: visible; }
+.line { position: absolute; white-space: pre; transform-origin: 0 0; }
+.line::selection { background: rgba(60, 120, 255, 0.35); color: transparent; }
 .object { position: absolute; }
 .ring { position: absolute; padding: 0; border: 0; background: transparent; cursor: pointer; }
 .ring:focus-visible { outline: 2px solid #fff; border-radius: 50%; }
@@ -66,21 +66,26 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
       s.appendChild(p);
     }
     for (const t of page.texts || []) {
-      const d = el("p", "text", t);
-      d.textContent = t.text;
-      d.style.fontFamily = "\"" + t.font + "\", Arial, \"Liberation Sans\", sans-serif";
-      d.style.fontSize = t.px + "px";
-      d.style.fontWeight = t.bold ? "bold" : "normal";
-      d.style.fontStyle = t.italic ? "italic" : "normal";
-      d.style.padding = "0 " + t.pad + "px";
-      d.style.textAlign = ["left", "center", "right"][t.align] || "left";
-      d.style.justifyContent = ["flex-start", "center", "flex-end"][t.valign] || "flex-start";
-      s.appendChild(d);
+      const box = el("div", "text", t.width ? t : null);
+      box.style.fontFamily = "\"" + t.font + "\", Arial, \"Liberation Sans\", sans-serif";
+      box.style.fontSize = t.px + "px";
+      box.style.fontWeight = t.bold ? "bold" : "normal";
+      box.style.fontStyle = t.italic ? "italic" : "normal";
+      const dx = t.width ? t.left : 0, dy = t.width ? t.top : 0;
+      for (const l of t.lines) {
+        const line = el("span", "line", { left: l.left - dx, top: l.top - dy, width: l.width, height: l.height });
+        line.textContent = l.text;
+        line.style.lineHeight = l.height + "px";
+        box.appendChild(line);
+        lines.push([line, l.width]);
+      }
+      s.appendChild(box);
     }
     stage.appendChild(s);
     return s;
   }
 
+  const lines = [];
   const screens = { 0: screen(show.home, show.home.name) };
   for (const key of Object.keys(show.pages)) screens[key] = screen(show.pages[key], show.pages[key].name);
 
@@ -148,8 +153,17 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
     const x = (innerWidth - show.width * scale) / 2, y = (innerHeight - show.height * scale) / 2;
     stage.style.transform = "translate(" + x + "px," + y + "px) scale(" + scale + ")";
   }
+  // Each line stretched to the width the page draws it at: the browser's font differs a little.
+  function fitLines() {
+    for (const [line, width] of lines) {
+      line.style.width = "auto";
+      const natural = line.getBoundingClientRect().width / (stage.getBoundingClientRect().width / show.width);
+      if (natural > 0) line.style.transform = "scaleX(" + width / natural + ")";
+    }
+  }
   addEventListener("resize", fit);
   fit();
+  fitLines();
   go(0, false);
   if (show.autoRun) timer = setTimeout(function () { go(show.order[0], true); }, show.holdMs);
 })();
