@@ -164,7 +164,12 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
   addEventListener("resize", fit);
   fit();
   fitLines();
+  // The home page is there at once; fades are for moving between pages.
+  home.style.transitionDuration = "0ms";
   go(0, false);
+  requestAnimationFrame(function () {
+    requestAnimationFrame(function () { home.style.transitionDuration = show.fadeMs + "ms"; });
+  });
   if (show.autoRun) timer = setTimeout(function () { go(show.order[0], true); }, show.holdMs);
 })();
 </script>

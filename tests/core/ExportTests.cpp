@@ -1,5 +1,8 @@
 #include "TestSupport.h"
 
+#include "ScriptedPrompter.h"
+
+#include "export/ExportCommand.h"
 #include "export/PdfExport.h"
 #include "io/ScriptFile.h"
 #include "render/PageCompositor.h"
@@ -7,8 +10,12 @@
 
 #include <QDir>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -19,13 +26,13 @@ using namespace zentor;
 namespace {
 
 // A project whose every content page has its own words, a picture and a gradient tab
-// picture; the profile carries a name, an e-mail address and a web site.
-struct PdfProject {
+// picture; the profile carries a name, an e-mail address and a web site; music plays.
+struct ExportProject {
     test::Sandbox box;
     std::unique_ptr<Document> doc = box.newDocument();
     QString project = box.path("cv.qds");
 
-    PdfProject() {
+    ExportProject() {
         QImage tab(400, 300, QImage::Format_RGB32);
         QPainter p(&tab);
         QLinearGradient g(0, 0, 400, 300);
@@ -54,19 +61,40 @@ struct PdfProject {
         // The same picture at one size on two pages, and once at another size.
         test::PlaceImage(*doc, 1, 7, {500, 300, 150, 100}, QStringLiteral("green.png"));
         test::PlaceImage(*doc, 2, 6, {500, 300, 150, 100}, QStringLiteral("green.png"));
-        test::PlaceImage(*doc, 3, 5, {100, 300, 60, 40}, QStringLiteral("green.png"));
+        test::PlaceImage(*doc, 3, 5, {100, 300, 60, 40}, QStringLiteral("green.png")).Name =
+            QStringLiteral("Green field");
+        EXPECT_TRUE(test::WriteAll(box.path("tune.mp3"), QByteArray("ID3\x03tune", 8)));
+        doc->Header.BackMusic = QStringLiteral("tune.mp3");
+        doc->Header.ShowAsRun = 0;
         EXPECT_TRUE(SaveScript(*doc, project));
     }
     ProfileRecord& Profile() { return doc->Profile; }
     static QString Word(int tab) { return QStringLiteral("Marker%1word").arg(tab); }
 
-    QString exportPdf() {
-        const QString out = box.path("cv.pdf");
+    QString exportAs(const char* command, const QString& name) {
+        EXPECT_TRUE(SaveScript(*doc, project));
+        const QString out = box.path(name);
         QByteArray err;
-        EXPECT_EQ(test::RunCli({"pdf", project, out}, nullptr, &err), 0) << err.constData();
+        EXPECT_EQ(test::RunCli({command, project, out}, nullptr, &err), 0) << err.constData();
         return out;
     }
+    QString exportPdf() { return exportAs("pdf", "cv.pdf"); }
 };
+
+// Mean difference of two pictures of one size, 0..1 over every channel of every pixel.
+double MeanDifference(QImage a, QImage b) {
+    EXPECT_EQ(a.size(), b.size());
+    a = a.convertToFormat(QImage::Format_RGB32);
+    b = b.convertToFormat(QImage::Format_RGB32).scaled(a.size());
+    double sum = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) +
+                   std::abs(qBlue(p) - qBlue(q));
+        }
+    return sum / (double(a.width()) * a.height() * 3 * 255);
+}
 
 QString Tool(const QString& program, const QStringList& args) {
     QByteArray out, err;
@@ -78,7 +106,7 @@ QString Tool(const QString& program, const QStringList& args) {
 } // namespace
 
 TEST(ExportPdf, ReadsBackAsTextFontsLinksAndMetadata) {
-    PdfProject pr;
+    ExportProject pr;
     const QString pdf = pr.exportPdf();
 
     const QString info = Tool("pdfinfo", {pdf});
@@ -109,13 +137,14 @@ TEST(ExportPdf, ReadsBackAsTextFontsLinksAndMetadata) {
     EXPECT_TRUE(pages[0].contains("ada@quill.example"));
     for (int tab = 7; tab >= 1; --tab) {
         const QString& page = pages[8 - tab];
-        EXPECT_EQ(page.count(PdfProject::Word(tab)), 1) << "page " << 9 - tab << qPrintable(page);
+        EXPECT_EQ(page.count(ExportProject::Word(tab)), 1)
+            << "page " << 9 - tab << qPrintable(page);
         EXPECT_EQ(page.count("leads the team"), 1);
     }
 }
 
 TEST(ExportPdf, ContentPagesLookLikeTheirJpegPages) {
-    PdfProject pr;
+    ExportProject pr;
     const QString pdf = pr.exportPdf();
     Tool("pdftoppm", {"-r", "96", "-png", pdf, pr.box.path("pg")});
     const ResImages res = ResImages::load();
@@ -126,21 +155,12 @@ TEST(ExportPdf, ContentPagesLookLikeTheirJpegPages) {
         ASSERT_EQ(shown.size(), QSize(800, 600)) << "page " << page;
         QImage jpeg;
         ASSERT_TRUE(jpeg.loadFromData(RenderPageJpeg(*pr.doc, tab, res)));
-        shown = shown.convertToFormat(QImage::Format_RGB32);
-        jpeg = jpeg.convertToFormat(QImage::Format_RGB32);
-        double sum = 0;
-        for (int y = 0; y < 600; ++y)
-            for (int x = 0; x < 800; ++x) {
-                const QRgb a = shown.pixel(x, y), b = jpeg.pixel(x, y);
-                sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) +
-                       std::abs(qBlue(a) - qBlue(b));
-            }
-        EXPECT_LT(sum / (800.0 * 600 * 3 * 255), 0.04) << "page " << page;
+        EXPECT_LT(MeanDifference(shown, jpeg), 0.04) << "page " << page;
     }
 }
 
 TEST(ExportPdf, PicturesOnceEachNoLargerThanDrawn) {
-    PdfProject pr;
+    ExportProject pr;
     const QString list = Tool("pdfimages", {"-list", pr.exportPdf()});
     // page num type width height color comp bpc enc interp object ID ...
     QHash<QString, QSize> objects;
@@ -160,7 +180,7 @@ TEST(ExportPdf, PicturesOnceEachNoLargerThanDrawn) {
 }
 
 TEST(ExportPdf, AuthorKeepsEveryOffsetRight) {
-    PdfProject pr;
+    ExportProject pr;
     const QByteArray pdf = test::ReadAll(pr.exportPdf());
     const qsizetype xref = pdf.lastIndexOf("\nxref\n0 ");
     ASSERT_GT(xref, 0);
@@ -180,7 +200,7 @@ TEST(ExportPdf, AuthorKeepsEveryOffsetRight) {
 }
 
 TEST(ExportPdf, FailureLeavesNothingBehind) {
-    PdfProject pr;
+    ExportProject pr;
     const QString old = pr.box.path("old.pdf");
     ASSERT_TRUE(test::WriteAll(old, "old"));
     pr.doc->Header.FrameWidth = 0;
@@ -205,4 +225,96 @@ TEST(ExportPdf, FailureLeavesNothingBehind) {
             EXPECT_EQ(test::ReadAll(c.out), c.left);
     }
     EXPECT_EQ(QDir(pr.box.path("")).entryList({"*.pdf*"}, QDir::Files), QStringList{"old.pdf"});
+}
+
+namespace {
+
+// What the page showed in headless Chromium (see support/web_probe.js).
+QJsonObject Probe(const QString& html, const QString& profile, const QStringList& extra) {
+    QByteArray out, err;
+    const QStringList args = QStringList{ZENTOR_WEB_PROBE, "/usr/bin/chromium",
+                                         QUrl::fromLocalFile(html).toString(), profile} +
+                             extra;
+    EXPECT_EQ(test::RunProcess("node", args, &out, &err), 0) << err.constData();
+    return QJsonDocument::fromJson(out).object();
+}
+
+QStringList Strings(const QJsonValue& v) {
+    QStringList list;
+    for (const QJsonValue& s : v.toArray())
+        list += s.toString();
+    return list;
+}
+
+} // namespace
+
+TEST(ExportWebPage, PlaysInABrowserLikeThePlayer) {
+    ExportProject pr;
+    const QString html = pr.exportAs("html", "cv.html");
+    const QByteArray bytes = test::ReadAll(html);
+    EXPECT_TRUE(
+        bytes.contains("data:audio/mpeg;base64," + QByteArray("ID3\x03tune", 8).toBase64()));
+
+    const QString shot = pr.box.path("home.png");
+    const QJsonObject seen = Probe(html, pr.box.path("profile"), {"--shot", shot, "--click", "3"});
+    EXPECT_EQ(Strings(seen["errors"]), QStringList());
+    EXPECT_EQ(Strings(seen["external"]), QStringList());
+    EXPECT_EQ(seen["title"].toString(), "Ada Quill");
+    EXPECT_EQ(seen["page"].toString(), "0");
+    EXPECT_EQ(seen["clicked"].toString(), "3");
+    const QStringList texts = Strings(seen["texts"]);
+    EXPECT_TRUE(texts.contains("Ada Quill"));
+    for (int tab = 1; tab <= 7; ++tab)
+        EXPECT_TRUE(texts.join(' ').contains(ExportProject::Word(tab) + " leads the team"))
+            << qPrintable(texts.join('|'));
+    EXPECT_TRUE(Strings(seen["names"]).contains("Green field"));
+
+    // The home page as the editor's profile page draws it, with the contacts over it.
+    ASSERT_EQ(test::RunCli({"render", pr.project, "0", pr.box.path("view.png"), "--view"}), 0);
+    EXPECT_LT(MeanDifference(QImage(shot), QImage(pr.box.path("view.png"))), 0.04);
+}
+
+TEST(ExportWebPage, ShowMovesOnByItself) {
+    ExportProject pr;
+    pr.doc->Header.ShowAsRun = 1;
+    pr.doc->Header.KeepOnTime = 600;
+    const QString html = pr.exportAs("html", "run.html");
+    const QJsonObject seen = Probe(html, pr.box.path("profile"), {"--wait-advance"});
+    EXPECT_EQ(Strings(seen["errors"]), QStringList());
+    EXPECT_EQ(seen["advanced"].toString(), "7"); // Personal, the strip's first page
+}
+
+TEST(ExportCommand, AsksForAPathAddsTheEndingAndConfirmsOverwriting) {
+    ExportProject pr;
+    ASSERT_TRUE(LoadScript(*pr.doc, pr.project).complete);
+    const ResImages res = ResImages::load();
+    ASSERT_TRUE(test::WriteAll(pr.box.path("kept.html"), "kept"));
+    const QString overwrite = "This file already exists. Do you want to overwrite it?";
+    const struct {
+        ExportKind kind;
+        QString chosen; // empty: the dialog is cancelled
+        QString written;
+        bool overwriteAsked;
+        bool ok;
+    } cases[] = {
+        {ExportKind::Pdf, pr.box.path("a"), pr.box.path("a.pdf"), false, true},
+        {ExportKind::Pdf, pr.box.path("b.PDF"), pr.box.path("b.PDF"), false, true},
+        {ExportKind::WebPage, pr.box.path("c.htm"), pr.box.path("c.htm.html"), false, true},
+        {ExportKind::WebPage, pr.box.path("kept.html"), pr.box.path("kept.html"), true, false},
+        {ExportKind::Pdf, QString(), QString(), false, false},
+    };
+    for (const auto& c : cases) {
+        const bool pdf = c.kind == ExportKind::Pdf;
+        const QString title = pdf ? "Export PDF" : "Export Web Page";
+        test::ScriptedPrompter prompter;
+        prompter.expectFile(true, title, pdf ? "*.pdf|*.pdf" : "*.html|*.html", c.chosen);
+        if (c.overwriteAsked)
+            prompter.expectQuestion(title, overwrite, Prompter::Answer::No);
+        EXPECT_EQ(RunExport(c.kind, *pr.doc, prompter, res, pr.box.ctx), c.ok)
+            << qPrintable(c.chosen);
+        EXPECT_PROMPTS_DONE(prompter);
+        if (c.ok)
+            EXPECT_TRUE(test::ReadAll(c.written).startsWith(pdf ? "%PDF" : "<!DOCTYPE html>"));
+    }
+    EXPECT_EQ(test::ReadAll(pr.box.path("kept.html")), "kept");
 }
