@@ -33,23 +33,16 @@ void BM_GenerateQdv(benchmark::State& state) {
 }
 BENCHMARK(BM_GenerateQdv)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void BM_ExportPdf(benchmark::State& state) {
+// Arg 0 the PDF, 1 the web page; "bytes" is the file's size.
+void BM_Export(benchmark::State& state) {
     Stress& s = Workload();
+    const auto render = state.range(0) == 0 ? RenderPdf : RenderWebPage;
     qint64 bytes = 0;
     for (auto _ : state)
-        bytes = RenderPdf(*s.doc, s.res, s.ws.ctx).size();
+        bytes = render(*s.doc, s.res, s.ws.ctx).size();
     state.counters["bytes"] = double(bytes);
 }
-BENCHMARK(BM_ExportPdf)->Unit(benchmark::kMillisecond)->UseRealTime();
-
-void BM_ExportWebPage(benchmark::State& state) {
-    Stress& s = Workload();
-    qint64 bytes = 0;
-    for (auto _ : state)
-        bytes = RenderWebPage(*s.doc, s.res, s.ws.ctx).size();
-    state.counters["bytes"] = double(bytes);
-}
-BENCHMARK(BM_ExportWebPage)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_Export)->Arg(0)->Arg(1)->ArgName("web")->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
 

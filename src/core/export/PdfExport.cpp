@@ -2,6 +2,7 @@
 
 #include "export/Contacts.h"
 #include "export/PdfCover.h"
+#include "export/PicturePrefetch.h"
 #include "model/DefaultDocument.h"
 #include "model/Document.h"
 #include "render/PageCompositor.h"
@@ -83,6 +84,7 @@ QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessCon
         QPainter p(&writer);
         // One cache for the whole file: a picture drawn twice at one size is embedded once.
         PictureCache cache;
+        PrefetchPictures(doc, ctx, cache);
         PaintCover(p, doc, res, ctx, &cache);
         // The strip's order: Personal (tab 7) first, Overview (tab 1) last.
         for (int tab = 7; tab >= 1; --tab) {

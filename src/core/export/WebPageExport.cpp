@@ -3,6 +3,7 @@
 #include "export/Contacts.h"
 #include "export/WebPageTemplate.h"
 #include "export/WebShow.h"
+#include "generate/PictureJobs.h"
 #include "io/FileUtil.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
@@ -15,6 +16,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QThread>
 
 #include <cmath>
 
@@ -95,11 +97,8 @@ QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg) {
                        {"texts", texts}};
 }
 
-QJsonObject HomeLayer(const Document& doc, const ResImages& res, const ProcessContext& ctx,
-                      PictureCache& cache) {
-    Document copy = doc; // the painter tidies what it draws; the export only reads
-    const QImage home = PaintWorkspace(copy, ProfileTab, 0, res, ctx, &cache);
-    const QSize frame = home.size();
+QJsonObject HomeLayer(const Document& doc, const QByteArray& jpeg) {
+    const QSize frame = FrameSize(doc);
     QJsonArray lines;
     for (const ContactLine& line : ContactLines(doc))
         lines.append(QJsonObject{{"text", line.text}, {"href", line.href}});
@@ -115,7 +114,7 @@ QJsonObject HomeLayer(const Document& doc, const ResImages& res, const ProcessCo
     const int contactsWidth = 300;
     return QJsonObject{
         {"name", PersonName(doc)},
-        {"picture", DataUri("image/jpeg", EncodeJpeg(home, PageQuality))},
+        {"picture", DataUri("image/jpeg", jpeg)},
         {"texts", texts},
         {"contacts", QJsonObject{{"box", Box((frame.width() - contactsWidth) / 2, captionTop + 28,
                                              contactsWidth, 19 * int(lines.size()))},
@@ -127,14 +126,26 @@ QJsonObject HomeLayer(const Document& doc, const ResImages& res, const ProcessCo
 QByteArray RenderWebPage(const Document& doc, const ResImages& res, const ProcessContext& ctx) {
     if (FrameSize(doc).isEmpty())
         return QByteArray();
+    // The eight pages and the home page are drawn side by side, as generating draws them.
     PictureCache cache;
+    std::vector<PictureJobs::Job> jobs;
+    for (int page = 1; page <= SlideShowTab; ++page)
+        jobs.push_back(
+            [&, page] { return PictureJobs::Result(RenderPageJpeg(doc, page, res, &cache)); });
+    jobs.push_back([&] {
+        Document copy = doc; // the painter tidies what it draws; the export only reads
+        return PictureJobs::Result(
+            EncodeJpeg(PaintWorkspace(copy, ProfileTab, 0, res, ctx, &cache), PageQuality));
+    });
+    PictureJobs pictures(std::move(jobs), std::max(1, QThread::idealThreadCount()));
+
     QJsonObject show = WebShowNumbers(doc);
     show.insert("title", PersonName(doc));
-    show.insert("home", HomeLayer(doc, res, ctx, cache));
     QJsonObject pages;
     for (int page = 1; page <= SlideShowTab; ++page)
         pages.insert(QString::number(page),
-                     PageLayer(doc, page, RenderPageJpeg(doc, page, res, &cache)));
+                     PageLayer(doc, page, pictures.take(size_t(page - 1)).value_or(QByteArray())));
+    show.insert("home", HomeLayer(doc, pictures.take(SlideShowTab).value_or(QByteArray())));
     show.insert("pages", pages);
     QByteArray music;
     const QString musicPath = ResolvePath(doc.ScriptPath, doc.Header.BackMusic.trimNull());
