@@ -152,6 +152,7 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
     g.save();
     g.setRenderHint(QPainter::TextAntialiasing, AntialiasedFor(hint));
     const QTransform base = g.transform();
+    QPainterPath outlinePath; // the shadow's glyphs, made once for both passes
     auto pass = [&](uint32_t argb, double ox, double oy, bool outlines) {
         g.setPen(QColor::fromRgba(argb));
         if (needClip) {
@@ -172,15 +173,16 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
         } else if (outlines) {
             t.scale(zoom, zoom);
             g.setTransform(t);
-            QPainterPath path;
-            for (const QGlyphRun& run : runs) {
-                const QRawFont font = run.rawFont();
-                const QList<quint32> glyphs = run.glyphIndexes();
-                const QList<QPointF> at = run.positions();
-                for (qsizetype i = 0; i < glyphs.size() && i < at.size(); ++i)
-                    path.addPath(font.pathForGlyph(glyphs[i]).translated(at[i]));
+            if (outlinePath.isEmpty()) {
+                for (const QGlyphRun& run : runs) {
+                    const QRawFont font = run.rawFont();
+                    const QList<quint32> glyphs = run.glyphIndexes();
+                    const QList<QPointF> at = run.positions();
+                    for (qsizetype i = 0; i < glyphs.size() && i < at.size(); ++i)
+                        outlinePath.addPath(font.pathForGlyph(glyphs[i]).translated(at[i]));
+                }
             }
-            g.fillPath(path, g.pen().color());
+            g.fillPath(outlinePath, g.pen().color());
         } else {
             t.scale(zoom, zoom);
             g.setTransform(t);
