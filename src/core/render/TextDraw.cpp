@@ -2,8 +2,10 @@
 
 #include "model/Records.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QGlyphRun>
+#include <QHash>
 #include <QPainter>
 #include <QRawFont>
 #include <QTextLayout>
@@ -12,6 +14,43 @@
 #include <cstring>
 
 namespace zentor {
+namespace {
+
+// Glyph shapes at the exact size, hinted and antialiased as the hint says; where they stand
+// comes from the layout alone. The font engine snaps fonts to whole pixels, a raw font does
+// not. Kept per thread (engines belong to one), since one made anew for every text would
+// rasterise every glyph anew too; dropped before the application's fonts are.
+thread_local QHash<QString, QRawFont> glyphFonts;
+
+QRawFont GlyphFont(const QString& family, int style, int size, int hint) {
+    static const bool dropAtExit = [] {
+        qAddPostRoutine([] { glyphFonts.clear(); });
+        return true;
+    }();
+    (void)dropAtExit;
+    const QString key = QStringLiteral("%1|%2|%3|%4").arg(family).arg(style).arg(size).arg(hint);
+    const auto it = glyphFonts.constFind(key);
+    if (it != glyphFonts.constEnd())
+        return *it;
+    // A page rarely mixes more than a handful; a damaged file must not grow this forever.
+    if (glyphFonts.size() >= 64)
+        glyphFonts.clear();
+    QFont shapes = LayoutFont(family, style);
+    const double exact = LayoutScale(size) * shapes.pixelSize();
+    shapes.setPixelSize(std::max(1, int(std::lround(exact))));
+    shapes.setHintingPreference(HintingFor(hint));
+    if (hint != int(TextHint::SystemDefault))
+        shapes.setStyleStrategy(AntialiasedFor(hint) ? QFont::PreferAntialias : QFont::NoAntialias);
+    QRawFont raw = QRawFont::fromFont(shapes);
+    raw.setPixelSize(exact);
+    return *glyphFonts.insert(key, raw);
+}
+
+bool SameFace(const QRawFont& a, const QRawFont& b) {
+    return a.familyName() == b.familyName() && a.styleName() == b.styleName();
+}
+
+} // namespace
 
 uint32_t ShadowColorFor(uint32_t argb) {
     return argb == 0xFF000000u ? 0xFFFFFFFFu : 0xFF000000u;
@@ -55,29 +94,20 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
         inked |= line.rect;
     const bool needClip = (wrap && (inked.left() < x || inked.right() > x + w)) ||
                           (clipY && (inked.top() < y || inked.bottom() > y + h));
-    // Glyph shapes come from a font at the nearest whole pixel size, hinted and antialiased
-    // as the hint says; where they stand comes from the layout alone. Grid-fitted glyphs
-    // keep that size, since fitting them to the pixel grid is what the hint asks for;
-    // unhinted outlines are scaled to the exact size.
     const double scale = shaped.scale;
-    QFont shapes = LayoutFont(fontName, style);
-    const double exact = scale * shapes.pixelSize();
-    const int pixels = std::max(1, int(std::lround(exact)));
-    shapes.setPixelSize(pixels);
-    shapes.setHintingPreference(HintingFor(hint));
-    if (hint != int(TextHint::SystemDefault))
-        shapes.setStyleStrategy(AntialiasedFor(hint) ? QFont::PreferAntialias : QFont::NoAntialias);
-    const QRawFont raw = QRawFont::fromFont(shapes);
-    const double zoom = HintingFor(hint) == QFont::PreferNoHinting ? exact / pixels : 1.0;
+    const QRawFont raw = GlyphFont(fontName, style, size, hint);
 
     // Underline and strikeout are drawn as bars of their own: glyph runs misplace them.
-    const QFontMetricsF metrics(LayoutFont(fontName, style));
     std::vector<double> bars; // offsets below the baseline, layout pixels
-    if (style & 4)
-        bars.push_back(metrics.underlinePos());
-    if (style & 8)
-        bars.push_back(-metrics.strikeOutPos());
-    const double barHeight = std::max(metrics.lineWidth() * scale, 1.0);
+    double barHeight = 0;
+    if (style & 12) {
+        const QFontMetricsF metrics(LayoutFont(fontName, style));
+        if (style & 4)
+            bars.push_back(metrics.underlinePos());
+        if (style & 8)
+            bars.push_back(-metrics.strikeOutPos());
+        barHeight = std::max(metrics.lineWidth() * scale, 1.0);
+    }
     QList<QRectF> barRects;
 
     QList<QGlyphRun> runs;
@@ -89,9 +119,16 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
         for (QGlyphRun run : shaped.layout->lineAt(i).glyphRuns()) {
             QList<QPointF> at = run.positions();
             for (QPointF& p : at)
-                p *= scale / zoom;
+                p = shaped.origin + p * scale;
             run.setPositions(at);
-            run.setRawFont(raw);
+            if (SameFace(run.rawFont(), raw)) {
+                run.setRawFont(raw);
+            } else {
+                // A character the font lacks comes from a fallback font: same glyphs, scaled.
+                QRawFont fallback = run.rawFont();
+                fallback.setPixelSize(fallback.pixelSize() * scale);
+                run.setRawFont(fallback);
+            }
             run.setUnderline(false);
             run.setStrikeOut(false);
             runs += run;
@@ -104,7 +141,6 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
 
     g.save();
     g.setRenderHint(QPainter::TextAntialiasing, AntialiasedFor(hint));
-    const QTransform base = g.transform();
     auto pass = [&](uint32_t argb, double ox, double oy) {
         g.setPen(QColor::fromRgba(argb));
         if (needClip) {
@@ -116,13 +152,8 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
             g.save();
             g.setClipRect(clip, Qt::IntersectClip);
         }
-        QTransform t = base;
-        t.translate(shaped.origin.x() + ox, shaped.origin.y() + oy);
-        t.scale(zoom, zoom);
-        g.setTransform(t);
         for (const QGlyphRun& run : runs)
-            g.drawGlyphRun(QPointF(), run);
-        g.setTransform(base);
+            g.drawGlyphRun(QPointF(ox, oy), run);
         for (const QRectF& bar : barRects)
             g.fillRect(bar.translated(ox, oy), g.pen().color());
         if (needClip)
