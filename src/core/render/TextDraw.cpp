@@ -2,8 +2,10 @@
 
 #include "model/Records.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QGlyphRun>
+#include <QHash>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -15,6 +17,43 @@
 #include <memory>
 
 namespace zentor {
+namespace {
+
+// Glyph shapes at the exact size, hinted and antialiased as the hint says; where they stand
+// comes from the layout alone. The font engine snaps fonts to whole pixels, a raw font does
+// not. Kept per thread (engines belong to one), since one made anew for every text would
+// rasterise every glyph anew too; dropped before the application's fonts are.
+thread_local QHash<QString, QRawFont> glyphFonts;
+
+QRawFont GlyphFont(const QString& family, int style, int size, int hint) {
+    static const bool dropAtExit = [] {
+        qAddPostRoutine([] { glyphFonts.clear(); });
+        return true;
+    }();
+    (void)dropAtExit;
+    const QString key = QStringLiteral("%1|%2|%3|%4").arg(family).arg(style).arg(size).arg(hint);
+    const auto it = glyphFonts.constFind(key);
+    if (it != glyphFonts.constEnd())
+        return *it;
+    // A page rarely mixes more than a handful; a damaged file must not grow this forever.
+    if (glyphFonts.size() >= 64)
+        glyphFonts.clear();
+    QFont shapes = LayoutFont(family, style);
+    const double exact = LayoutScale(size) * shapes.pixelSize();
+    shapes.setPixelSize(std::max(1, int(std::lround(exact))));
+    shapes.setHintingPreference(HintingFor(hint));
+    if (hint != int(TextHint::SystemDefault))
+        shapes.setStyleStrategy(AntialiasedFor(hint) ? QFont::PreferAntialias : QFont::NoAntialias);
+    QRawFont raw = QRawFont::fromFont(shapes);
+    raw.setPixelSize(exact);
+    return *glyphFonts.insert(key, raw);
+}
+
+bool SameFace(const QRawFont& a, const QRawFont& b) {
+    return a.familyName() == b.familyName() && a.styleName() == b.styleName();
+}
+
+} // namespace
 
 uint32_t ShadowColorFor(uint32_t argb) {
     return argb == 0xFF000000u ? 0xFFFFFFFFu : 0xFF000000u;
@@ -96,29 +135,20 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
         inked |= line.rect;
     const bool needClip = (wrap && (inked.left() < x || inked.right() > x + w)) ||
                           (clipY && (inked.top() < y || inked.bottom() > y + h));
-    // Glyph shapes come from a font at the nearest whole pixel size, hinted and antialiased
-    // as the hint says; where they stand comes from the layout alone. Grid-fitted glyphs
-    // keep that size, since fitting them to the pixel grid is what the hint asks for;
-    // unhinted outlines are scaled to the exact size.
     const double scale = shaped.scale;
-    QFont shapes = LayoutFont(fontName, style);
-    const double exact = scale * shapes.pixelSize();
-    const int pixels = std::max(1, int(std::lround(exact)));
-    shapes.setPixelSize(pixels);
-    shapes.setHintingPreference(HintingFor(hint));
-    if (hint != int(TextHint::SystemDefault))
-        shapes.setStyleStrategy(AntialiasedFor(hint) ? QFont::PreferAntialias : QFont::NoAntialias);
-    const QRawFont raw = QRawFont::fromFont(shapes);
-    const double zoom = HintingFor(hint) == QFont::PreferNoHinting ? exact / pixels : 1.0;
+    const QRawFont raw = GlyphFont(fontName, style, size, hint);
 
     // Underline and strikeout are drawn as bars of their own: glyph runs misplace them.
-    const QFontMetricsF metrics(LayoutFont(fontName, style));
     std::vector<double> bars; // offsets below the baseline, layout pixels
-    if (style & 4)
-        bars.push_back(metrics.underlinePos());
-    if (style & 8)
-        bars.push_back(-metrics.strikeOutPos());
-    const double barHeight = std::max(metrics.lineWidth() * scale, 1.0);
+    double barHeight = 0;
+    if (style & 12) {
+        const QFontMetricsF metrics(LayoutFont(fontName, style));
+        if (style & 4)
+            bars.push_back(metrics.underlinePos());
+        if (style & 8)
+            bars.push_back(-metrics.strikeOutPos());
+        barHeight = std::max(metrics.lineWidth() * scale, 1.0);
+    }
     QList<QRectF> barRects;
 
     QList<QGlyphRun> runs;
@@ -130,9 +160,16 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
         for (QGlyphRun run : shaped.layout->lineAt(i).glyphRuns()) {
             QList<QPointF> at = run.positions();
             for (QPointF& p : at)
-                p *= scale / zoom;
+                p = shaped.origin + p * scale;
             run.setPositions(at);
-            run.setRawFont(raw);
+            if (SameFace(run.rawFont(), raw)) {
+                run.setRawFont(raw);
+            } else {
+                // A character the font lacks comes from a fallback font: same glyphs, scaled.
+                QRawFont fallback = run.rawFont();
+                fallback.setPixelSize(fallback.pixelSize() * scale);
+                run.setRawFont(fallback);
+            }
             run.setUnderline(false);
             run.setStrikeOut(false);
             runs += run;
@@ -151,7 +188,6 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
 
     g.save();
     g.setRenderHint(QPainter::TextAntialiasing, AntialiasedFor(hint));
-    const QTransform base = g.transform();
     QPainterPath outlinePath; // the shadow's glyphs, made once for both passes
     auto pass = [&](uint32_t argb, double ox, double oy, bool outlines) {
         g.setPen(QColor::fromRgba(argb));
@@ -164,15 +200,15 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
             g.save();
             g.setClipRect(clip, Qt::IntersectClip);
         }
-        QTransform t = base;
-        t.translate(shaped.origin.x() + ox, shaped.origin.y() + oy);
         if (linked && !outlines) {
+            const QTransform base = g.transform();
+            QTransform t = base;
+            t.translate(shaped.origin.x() + ox, shaped.origin.y() + oy);
             t.scale(scale, scale);
             g.setTransform(t);
             linked->draw(&g, QPointF());
+            g.setTransform(base);
         } else if (outlines) {
-            t.scale(zoom, zoom);
-            g.setTransform(t);
             if (outlinePath.isEmpty()) {
                 for (const QGlyphRun& run : runs) {
                     const QRawFont font = run.rawFont();
@@ -182,14 +218,11 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
                         outlinePath.addPath(font.pathForGlyph(glyphs[i]).translated(at[i]));
                 }
             }
-            g.fillPath(outlinePath, g.pen().color());
+            g.fillPath(outlinePath.translated(ox, oy), g.pen().color());
         } else {
-            t.scale(zoom, zoom);
-            g.setTransform(t);
             for (const QGlyphRun& run : runs)
-                g.drawGlyphRun(QPointF(), run);
+                g.drawGlyphRun(QPointF(ox, oy), run);
         }
-        g.setTransform(base);
         for (const QRectF& bar : barRects)
             g.fillRect(bar.translated(ox, oy), g.pen().color());
         if (needClip)

@@ -18,9 +18,11 @@ namespace {
 // size of a house.
 constexpr int MaxPoints = 1000;
 
-// The font engine snaps fonts to whole pixels; laid out this large with design metrics,
-// advances and line spacing come out exactly proportional to the size asked for.
-constexpr int LayoutPixels = 2048;
+// The font engine snaps fonts to whole pixels; laid out at this size with design metrics,
+// advances and line spacing come out proportional to the size asked for (exactly, for
+// fonts of 2048 units to the em). Larger sizes would be exact for more fonts, but the
+// engine stops caching glyph metrics beyond it and every layout then reloads its glyphs.
+constexpr int LayoutPixels = 64;
 
 // A line width no text reaches, in layout pixels (within the engine's fixed-point range).
 constexpr double Unbounded = 1.6e7;
@@ -93,6 +95,12 @@ bool EndsInsideWord(const QString& s, int end, std::optional<QTextBoundaryFinder
     return !finder->isAtBoundary();
 }
 
+// A line's height with its leading, unrounded: QTextLine::height() rounds up to whole
+// layout pixels, which would add up over the lines.
+double Pitch(const QTextLine& line) {
+    return line.ascent() + line.descent() + std::max(0.0, line.leading());
+}
+
 } // namespace
 
 double LayoutScale(int points) {
@@ -163,7 +171,7 @@ ShapedTextBox ShapeTextBox(const QString& text, double left, double top, double 
         else if (align == 2)
             dx = room - pad - used;
         line.setPosition(QPointF(dx, lineY));
-        lineY += line.height();
+        lineY += Pitch(line);
     }
     layout->endLayout();
 
@@ -184,7 +192,7 @@ ShapedTextBox ShapeTextBox(const QString& text, double left, double top, double 
     for (int i = 0; i < layout->lineCount(); ++i) {
         const QTextLine line = layout->lineAt(i);
         const QPointF at = out.origin + line.position() * scale;
-        const QRectF rect(at, QSizeF(line.naturalTextWidth() * scale, line.height() * scale));
+        const QRectF rect(at, QSizeF(line.naturalTextWidth() * scale, Pitch(line) * scale));
         box.lines.push_back({line.textStart(), line.textLength(), rect});
         if (!clipY || (rect.top() >= y - Slack && rect.bottom() <= y + h + Slack))
             ++box.linesVisible;
