@@ -1,6 +1,7 @@
 #include "cli/Cli.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -81,8 +82,11 @@ int main(int argc, char** argv) {
         QString error;
         if (!parse(cmd, words, args, error))
             return Fail(error + QStringLiteral("\nusage: zentor-cli ") + cmd.usage, ExitUsage);
-        // A private work folder, so that several runs at once never share a temporary picture.
-        QTemporaryDir temp;
+        // A private work folder, so that several runs at once never share a temporary picture;
+        // those of earlier runs that were killed midway are removed first.
+        const QString program = QStringLiteral("zentor-cli");
+        zentor::RemoveStaleWorkFolders(QDir::tempPath(), program);
+        QTemporaryDir temp(zentor::PrivateWorkTemplate(QDir::tempPath(), program));
         const auto ctx =
             zentor::ProcessContext::create(QCoreApplication::applicationDirPath(), temp.path());
         return cmd.run(args, ctx);
