@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QRawFont>
 #include <QTextLayout>
+#include <QThread>
 
 #include <cmath>
 #include <cstring>
@@ -27,11 +28,6 @@ struct GlyphFont {
 thread_local QHash<QString, GlyphFont> glyphFonts;
 
 const GlyphFont& GlyphFontFor(const QString& family, int style, int size, int hint) {
-    static const bool dropAtExit = [] {
-        qAddPostRoutine([] { glyphFonts.clear(); });
-        return true;
-    }();
-    (void)dropAtExit;
     QString key = family;
     key += QChar(0);
     key += QString::number(qint64(size) << 16 | (style & 0xFF) << 8 | (hint & 0xFF));
@@ -41,6 +37,10 @@ const GlyphFont& GlyphFontFor(const QString& family, int style, int size, int hi
     // A page rarely mixes more than a handful; a damaged file must not grow this forever.
     if (glyphFonts.size() >= 64)
         glyphFonts.clear();
+    // Other threads drop theirs when they end; the main thread's goes with the application.
+    const QCoreApplication* app = QCoreApplication::instance();
+    if (glyphFonts.isEmpty() && app && QThread::currentThread() == app->thread())
+        qAddPostRoutine([] { glyphFonts.clear(); });
     const QFont layoutFont = LayoutFont(family, style);
     QFont shapes = layoutFont;
     const double exact = LayoutScale(size) * shapes.pixelSize();
