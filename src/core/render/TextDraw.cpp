@@ -11,6 +11,7 @@
 #include <QPainterPath>
 #include <QRawFont>
 #include <QTextLayout>
+#include <QThread>
 
 #include <cmath>
 #include <cstring>
@@ -23,34 +24,38 @@ namespace {
 // comes from the layout alone. The font engine snaps fonts to whole pixels, a raw font does
 // not. Kept per thread (engines belong to one), since one made anew for every text would
 // rasterise every glyph anew too; dropped before the application's fonts are.
-thread_local QHash<QString, QRawFont> glyphFonts;
+struct GlyphFont {
+    QRawFont laidOut; // the layout's font, to tell its runs from fallback fonts' runs
+    QRawFont drawn;
+};
+thread_local QHash<QString, GlyphFont> glyphFonts;
 
-QRawFont GlyphFont(const QString& family, int style, int size, int hint) {
-    static const bool dropAtExit = [] {
-        qAddPostRoutine([] { glyphFonts.clear(); });
-        return true;
-    }();
-    (void)dropAtExit;
-    const QString key = QStringLiteral("%1|%2|%3|%4").arg(family).arg(style).arg(size).arg(hint);
+const GlyphFont& GlyphFontFor(const QString& family, int style, int size, int hint) {
+    QString key = family;
+    key += QChar(0);
+    key += QString::number(qint64(size) << 16 | (style & 0xFF) << 8 | (hint & 0xFF));
     const auto it = glyphFonts.constFind(key);
     if (it != glyphFonts.constEnd())
         return *it;
     // A page rarely mixes more than a handful; a damaged file must not grow this forever.
     if (glyphFonts.size() >= 64)
         glyphFonts.clear();
-    QFont shapes = LayoutFont(family, style);
+    // Other threads drop theirs when they end; the main thread's goes with the application.
+    const QCoreApplication* app = QCoreApplication::instance();
+    if (glyphFonts.isEmpty() && app && QThread::currentThread() == app->thread())
+        qAddPostRoutine([] { glyphFonts.clear(); });
+    const QFont layoutFont = LayoutFont(family, style);
+    QFont shapes = layoutFont;
     const double exact = LayoutScale(size) * shapes.pixelSize();
-    shapes.setPixelSize(std::max(1, int(std::lround(exact))));
+    const int whole = std::max(1, int(std::lround(exact)));
+    shapes.setPixelSize(whole);
     shapes.setHintingPreference(HintingFor(hint));
     if (hint != int(TextHint::SystemDefault))
         shapes.setStyleStrategy(AntialiasedFor(hint) ? QFont::PreferAntialias : QFont::NoAntialias);
     QRawFont raw = QRawFont::fromFont(shapes);
-    raw.setPixelSize(exact);
-    return *glyphFonts.insert(key, raw);
-}
-
-bool SameFace(const QRawFont& a, const QRawFont& b) {
-    return a.familyName() == b.familyName() && a.styleName() == b.styleName();
+    if (exact != whole)
+        raw.setPixelSize(exact);
+    return *glyphFonts.insert(key, {QRawFont::fromFont(layoutFont), raw});
 }
 
 } // namespace
@@ -136,7 +141,7 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
     const bool needClip = (wrap && (inked.left() < x || inked.right() > x + w)) ||
                           (clipY && (inked.top() < y || inked.bottom() > y + h));
     const double scale = shaped.scale;
-    const QRawFont raw = GlyphFont(fontName, style, size, hint);
+    const GlyphFont& fonts = GlyphFontFor(fontName, style, size, hint);
 
     // Underline and strikeout are drawn as bars of their own: glyph runs misplace them.
     std::vector<double> bars; // offsets below the baseline, layout pixels
@@ -162,8 +167,8 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
             for (QPointF& p : at)
                 p = shaped.origin + p * scale;
             run.setPositions(at);
-            if (SameFace(run.rawFont(), raw)) {
-                run.setRawFont(raw);
+            if (run.rawFont() == fonts.laidOut) {
+                run.setRawFont(fonts.drawn);
             } else {
                 // A character the font lacks comes from a fallback font: same glyphs, scaled.
                 QRawFont fallback = run.rawFont();
@@ -172,7 +177,14 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
             }
             run.setUnderline(false);
             run.setStrikeOut(false);
-            runs += run;
+            // One run for all lines in one font: every run drawn costs a pass of its own.
+            if (!runs.isEmpty() && runs.last().rawFont() == run.rawFont()) {
+                QGlyphRun& joined = runs.last();
+                joined.setGlyphIndexes(joined.glyphIndexes() + run.glyphIndexes());
+                joined.setPositions(joined.positions() + run.positions());
+            } else {
+                runs += run;
+            }
         }
         const QTextLine line = shaped.layout->lineAt(i);
         for (const double below : bars)

@@ -2,7 +2,6 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QFontMetricsF>
 #include <QHash>
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
@@ -186,7 +185,7 @@ ShapedTextBox ShapeTextBox(const QString& text, double left, double top, double 
     out.scale = scale;
 
     TextBoxLayout& box = out.box;
-    box.lineHeight = QFontMetricsF(font).lineSpacing() * scale;
+    box.lineHeight = Pitch(layout->lineAt(0)) * scale;
     box.linesTotal = layout->lineCount();
     std::optional<QTextBoundaryFinder> finder;
     for (int i = 0; i < layout->lineCount(); ++i) {
