@@ -152,9 +152,10 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     if (!doc.Header.BackMusic.trimNull().isEmpty() && ReadFileBytes(musicPath, music) > 0)
         show.insert("music", DataUri("audio/mpeg", music));
 
-    // "</" inside the data would end its script element.
+    // "</script" or "<!--" in a text would change how the page reads its script element; a
+    // '<' only stands inside JSON strings, where its escape means the same.
     QByteArray data = QJsonDocument(show).toJson(QJsonDocument::Compact);
-    data.replace("</", "<\\/");
+    data.replace("<", "\\u003c");
     QByteArray page = WebPageTemplate();
     page.replace("@TITLE@", PersonName(doc).toHtmlEscaped().toUtf8());
     page.replace("@DATA@", data);
