@@ -3,28 +3,33 @@
 #include "model/Document.h"
 #include "render/IconRing.h"
 #include "render/PageCompositor.h"
+#include "show/ShowModel.h"
 
 #include <QJsonArray>
-
-#include <algorithm>
 
 namespace zentor {
 namespace {
 
-// A page is held at least this long, whatever a damaged file says.
-constexpr int MinHoldMs = 500;
-// The speed setting (0..100 in steps of 10) as a fade length: 20 fades in half a second.
-constexpr int FadeMsPerSpeed = 25;
+show::ShowHeader showHeaderOf(const ScriptHeader& h) {
+    show::ShowHeader s;
+    s.MusicVolume = h.MusicVolume;
+    s.AutoRepeat = h.AutoRepeat;
+    s.ShowSpeed = h.ShowSpeed;
+    s.ShowAsRun = h.ShowAsRun;
+    s.KeepOnTime = h.KeepOnTime;
+    return s;
+}
 
 } // namespace
 
 QJsonObject WebShowNumbers(const Document& doc) {
     const QSize frame = FrameSize(doc);
-    const ScriptHeader& h = doc.Header;
+    const show::ShowHeader h = showHeaderOf(doc.Header);
+    const show::ShowSettings settings = show::ShowSettingsOf(h);
+    const show::MusicSettings music = show::MusicSettingsOf(h, true);
     QJsonArray order;
-    for (int tab = 7; tab >= 1; --tab)
-        order.append(tab);
-    order.append(SlideShowTab);
+    for (int entry : show::PageOrder)
+        order.append(entry - show::Package::FirstPageEntry + 1);
 
     QJsonArray ring;
     const IconRectTable rects = IconRects(frame);
@@ -39,15 +44,9 @@ QJsonObject WebShowNumbers(const Document& doc) {
             {"name", i == SlideShowTab && name.isEmpty() ? QStringLiteral("Slide Show") : name}});
     }
     return QJsonObject{
-        {"width", frame.width()},
-        {"height", frame.height()},
-        {"order", order},
-        {"holdMs", std::max(MinHoldMs, h.KeepOnTime)},
-        {"fadeMs", std::clamp(h.ShowSpeed, 0, 100) * FadeMsPerSpeed},
-        {"autoRun", h.ShowAsRun == 1},
-        {"volume", std::clamp(h.MusicVolume, 0, 1000) / 1000.0},
-        {"loop", h.AutoRepeat == 1},
-        {"ring", ring},
+        {"width", frame.width()},    {"height", frame.height()},  {"order", order},
+        {"holdMs", settings.HoldMs}, {"fadeMs", settings.FadeMs}, {"autoRun", settings.AutoRun},
+        {"volume", music.Volume},    {"loop", music.Loop},        {"ring", ring},
     };
 }
 
