@@ -119,6 +119,17 @@ TEST_F(WindowTest, StartsOnTheProfilePageWithTheDocumentsTabNames) {
     EXPECT_EQ(find<QAction>("SubEdit10")->text(), "Setting");
     EXPECT_EQ(find<QAction>("SubAbout6")->text(), "&About");
     EXPECT_EQ(window->toolbarAction(16)->toolTip(), "Generate Selfrun Resume");
+    // Save As has its key whatever the desktop's key theme says.
+    EXPECT_EQ(find<QAction>("SubFile8")->shortcut(), QKeySequence("Ctrl+Shift+S"));
+}
+
+TEST_F(WindowTest, TheTitleMarksUnsavedWork) {
+    EXPECT_EQ(window->windowTitle(), "Untitled[*] - Vitara Zentor");
+    EXPECT_FALSE(window->isWindowModified());
+    doc->Dirty = true;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->isWindowModified(); }, 2000));
+    doc->Dirty = false;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isWindowModified(); }, 2000));
 }
 
 TEST_F(WindowTest, InsertingATextSelectsItUnderTheFrame) {
