@@ -4,6 +4,7 @@
 #include "editor/PropertyPanes.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
+#include "export/ExportCommand.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
 #include "model/DefaultDocument.h"
@@ -83,6 +84,10 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
 #endif
         generator_->GenerateResume(doc_, selfRun);
     });
+    editor_.setExporter([this](int command) {
+        RunExport(command == CmdExportPdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_,
+                  res_, ctx_);
+    });
     wireWorkspace();
     // Room for an 800 x 600 page beside the tool pane, within the screen.
     QSize size(1280, 860);
@@ -128,6 +133,8 @@ void FrmMain::buildMenus() {
           {3, nullptr, {}},
           {4, "&Generate QDV File", cmd(CmdGenerateQdv)},
           {5, "Generate &Selfrun Resume File", cmd(CmdGenerateSelfrun)},
+          {11, "Export &PDF...", cmd(CmdExportPdf)},
+          {12, "Export &Web Page...", cmd(CmdExportWebPage)},
           {6, nullptr, {}},
           {7, "&Save", cmd(CmdSave)},
           {8, "Save &as...", cmd(CmdSaveAs)},

@@ -400,6 +400,23 @@ TEST_F(WindowTest, TheGenerateCommandsWriteBothKindsOfPackage) {
     EXPECT_EQ(find<QLabel>("StatusPanel1")->text(), "Ready");
 }
 
+TEST_F(WindowTest, TheExportItemsWriteThePdfAndTheWebPage) {
+    const struct {
+        const char* item;
+        const char* title;
+        const char* filter;
+        const char* name;
+        QByteArray start;
+    } cases[] = {{"SubFile11", "Export PDF", "*.pdf|*.pdf", "cv.pdf", "%PDF"},
+                 {"SubFile12", "Export Web Page", "*.html|*.html", "cv.html", "<!DOCTYPE html>"}};
+    for (const auto& c : cases) {
+        const QString path = sandbox.path(QString::fromLatin1(c.name));
+        prompter.expectFile(true, c.title, c.filter, path);
+        find<QAction>(c.item)->trigger();
+        EXPECT_TRUE(ReadAll(path).startsWith(c.start)) << c.name;
+    }
+}
+
 TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
     struct Case {
         Prompter::Answer answer;

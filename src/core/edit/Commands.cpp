@@ -88,6 +88,13 @@ void Editor::CommonModth(int index) {
             generate_(index == CmdGenerateSelfrun);
         view_.setPointer(window, Pointer::Normal);
         break;
+    case CmdExportPdf:
+    case CmdExportWebPage:
+        view_.setPointer(window, Pointer::Hourglass);
+        if (export_)
+            export_(index);
+        view_.setPointer(window, Pointer::Normal);
+        break;
     case CmdSettings:
         view_.showSettings();
         break;

@@ -6,13 +6,16 @@
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QHash>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QRawFont>
 #include <QTextLayout>
 #include <QThread>
 
 #include <cmath>
 #include <cstring>
+#include <memory>
 
 namespace zentor {
 namespace {
@@ -86,6 +89,44 @@ bool AntialiasedFor(int hint) {
 void DrawFontText(QPainter& g, const QString& text, double left, double top, double width,
                   double height, const QString& fontName, int size, int style, int align,
                   int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset) {
+    DrawLinkedText(g, text, left, top, width, height, fontName, size, style, align, lineAlign,
+                   color, shadow, hint, shadowOffset, QString());
+}
+
+namespace {
+
+// The shaped lines once more, as one text carrying a link: a PDF makes a link of text drawn
+// with an anchor format. Same font, same line breaks and positions as `shaped`.
+std::unique_ptr<QTextLayout> LinkedLayout(const ShapedTextBox& shaped, const QString& fontName,
+                                          int style, const QString& href) {
+    auto linked = std::make_unique<QTextLayout>(shaped.layout->text(), LayoutFont(fontName, style));
+    QTextLayout::FormatRange range;
+    range.start = 0;
+    range.length = int(shaped.layout->text().size());
+    range.format.setAnchor(true);
+    range.format.setAnchorHref(href);
+    linked->setFormats({range});
+    linked->setTextOption(shaped.layout->textOption());
+    linked->beginLayout();
+    for (int i = 0; i < shaped.layout->lineCount(); ++i) {
+        const QTextLine from = shaped.layout->lineAt(i);
+        QTextLine line = linked->createLine();
+        if (!line.isValid())
+            break;
+        line.setNumColumns(from.textLength());
+        line.setLeadingIncluded(true);
+        line.setPosition(from.position());
+    }
+    linked->endLayout();
+    return linked;
+}
+
+} // namespace
+
+void DrawLinkedText(QPainter& g, const QString& text, double left, double top, double width,
+                    double height, const QString& fontName, int size, int style, int align,
+                    int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset,
+                    const QString& href) {
     const ShapedTextBox shaped =
         ShapeTextBox(text, left, top, width, height, fontName, size, style, align, lineAlign);
     if (!shaped.layout)
@@ -151,9 +192,16 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
                 QRectF(r.left(), r.top() + (line.ascent() + below) * scale, r.width(), barHeight);
     }
 
+    // In a PDF, text drawn as text is read back by every reader: there the shadow passes are
+    // glyph outlines, so that each word is found once, and a link is drawn as a linked text.
+    const bool pdf = g.paintEngine() && g.paintEngine()->type() == QPaintEngine::Pdf;
+    const auto linked = pdf && !href.isEmpty() ? LinkedLayout(shaped, fontName, style, href)
+                                               : std::unique_ptr<QTextLayout>();
+
     g.save();
     g.setRenderHint(QPainter::TextAntialiasing, AntialiasedFor(hint));
-    auto pass = [&](uint32_t argb, double ox, double oy) {
+    QPainterPath outlinePath; // the shadow's glyphs, made once for both passes
+    auto pass = [&](uint32_t argb, double ox, double oy, bool outlines) {
         g.setPen(QColor::fromRgba(argb));
         if (needClip) {
             QRectF clip(x + ox, y + oy, wrap ? w : 2e7, clipY ? h : 2e7);
@@ -164,8 +212,29 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
             g.save();
             g.setClipRect(clip, Qt::IntersectClip);
         }
-        for (const QGlyphRun& run : runs)
-            g.drawGlyphRun(QPointF(ox, oy), run);
+        if (linked && !outlines) {
+            const QTransform base = g.transform();
+            QTransform t = base;
+            t.translate(shaped.origin.x() + ox, shaped.origin.y() + oy);
+            t.scale(scale, scale);
+            g.setTransform(t);
+            linked->draw(&g, QPointF());
+            g.setTransform(base);
+        } else if (outlines) {
+            if (outlinePath.isEmpty()) {
+                for (const QGlyphRun& run : runs) {
+                    const QRawFont font = run.rawFont();
+                    const QList<quint32> glyphs = run.glyphIndexes();
+                    const QList<QPointF> at = run.positions();
+                    for (qsizetype i = 0; i < glyphs.size() && i < at.size(); ++i)
+                        outlinePath.addPath(font.pathForGlyph(glyphs[i]).translated(at[i]));
+                }
+            }
+            g.fillPath(outlinePath.translated(ox, oy), g.pen().color());
+        } else {
+            for (const QGlyphRun& run : runs)
+                g.drawGlyphRun(QPointF(ox, oy), run);
+        }
         for (const QRectF& bar : barRects)
             g.fillRect(bar.translated(ox, oy), g.pen().color());
         if (needClip)
@@ -173,11 +242,11 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
     };
     if (shadow != 0) {
         const uint32_t shadowColor = ShadowColorFor(color);
-        pass(shadowColor, shadowOffset, shadowOffset);
+        pass(shadowColor, shadowOffset, shadowOffset, pdf);
         // Once more unshifted: it thickens the glyph edges under the text.
-        pass(shadowColor, 0, 0);
+        pass(shadowColor, 0, 0, pdf);
     }
-    pass(color, 0, 0);
+    pass(color, 0, 0, false);
     g.restore();
 }
 

@@ -40,6 +40,13 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
                   double height, const QString& fontName, int size, int style, int align,
                   int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset);
 
+// DrawFontText whose text, when `href` is not empty, is a link to it where the surface
+// keeps links (a PDF).
+void DrawLinkedText(QPainter& g, const QString& text, double left, double top, double width,
+                    double height, const QString& fontName, int size, int style, int align,
+                    int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset,
+                    const QString& href);
+
 // A text object drawn as every page shows it (shadow offset 1).
 void DrawTextElement(QPainter& g, const TextElement& t);
 
