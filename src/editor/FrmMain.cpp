@@ -27,6 +27,7 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTimer>
 #include <QToolBar>
 
 namespace zentor {
@@ -95,6 +96,14 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         size = size.boundedTo(screen->availableSize());
     resize(size);
     updateTitle();
+    // Edits set the document's flag from many places (panes, dialogs, typing in place); the
+    // title's modified mark follows it a few times a second.
+    auto* titleTimer = new QTimer(this);
+    connect(titleTimer, &QTimer::timeout, this, [this] {
+        if (isWindowModified() != doc_.Dirty)
+            updateTitle();
+    });
+    titleTimer->start(200);
 }
 
 FrmMain::~FrmMain() {
@@ -177,7 +186,8 @@ void FrmMain::buildMenus() {
     key("SubFile1", {QKeySequence::New});
     key("SubFile2", {QKeySequence::Open});
     key("SubFile7", {QKeySequence::Save});
-    key("SubFile8", {QKeySequence::SaveAs});
+    // Bound explicitly: several desktops' key themes have no Save As key.
+    key("SubFile8", {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)});
     key("SubFile10", {QKeySequence::Quit});
     key("SubEdit3", {QKeySequence::Delete});
     key("SubEdit5", {QKeySequence(Qt::CTRL | Qt::Key_PageUp)});
@@ -472,7 +482,9 @@ void FrmMain::updateScrollBars(bool middleVertically) {
 void FrmMain::updateTitle() {
     const QString name = doc_.ScriptPath.isEmpty() ? QStringLiteral("Untitled")
                                                    : QFileInfo(doc_.ScriptPath).fileName();
-    setWindowTitle(name + QStringLiteral(" - Vitara Zentor"));
+    // "[*]" is where the platform puts its modified mark ("cv.qds*" here) while Dirty is set.
+    setWindowTitle(name + QStringLiteral("[*] - Vitara Zentor"));
+    setWindowModified(doc_.Dirty);
 }
 
 } // namespace zentor

@@ -119,6 +119,17 @@ TEST_F(WindowTest, StartsOnTheProfilePageWithTheDocumentsTabNames) {
     EXPECT_EQ(find<QAction>("SubEdit10")->text(), "Setting");
     EXPECT_EQ(find<QAction>("SubAbout6")->text(), "&About");
     EXPECT_EQ(window->toolbarAction(16)->toolTip(), "Generate Selfrun Resume");
+    // Save As has its key whatever the desktop's key theme says.
+    EXPECT_EQ(find<QAction>("SubFile8")->shortcut(), QKeySequence("Ctrl+Shift+S"));
+}
+
+TEST_F(WindowTest, TheTitleMarksUnsavedWork) {
+    EXPECT_EQ(window->windowTitle(), "Untitled[*] - Vitara Zentor");
+    EXPECT_FALSE(window->isWindowModified());
+    doc->Dirty = true;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->isWindowModified(); }, 2000));
+    doc->Dirty = false;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isWindowModified(); }, 2000));
 }
 
 TEST_F(WindowTest, InsertingATextSelectsItUnderTheFrame) {
@@ -434,13 +445,12 @@ TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
         window->show();
     }
 
-    // Yes on a never-saved document: the save dialog is cancelled and the window still closes.
+    // Yes and then no save after all keeps the window open, so the work is not lost: the
+    // save dialog cancelled, or the save refused by the disk.
     prompter.expectYesNoCancel(title, text, Prompter::Answer::Yes);
     prompter.expectFile(true, "Save QDV Script File", ScriptFilter, QString());
-    EXPECT_TRUE(window->close());
-
-    // A save the disk refuses keeps the window open, so the work is not lost.
-    window->show();
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
     const QString nowhere = sandbox.path("no/such/folder/cv.qds");
     prompter.expectYesNoCancel(title, text, Prompter::Answer::Yes);
     prompter.expectFile(true, "Save QDV Script File", ScriptFilter, nowhere);

@@ -107,6 +107,9 @@ private:
     void applyStripCaptions();
     void sizeAndCentreWorkspace();
     bool save(bool alwaysAsk);
+    // Runs Save after a Yes to a question about unsaved work; true only when the file was
+    // written, so the asking command may go on.
+    bool saveForQuestion();
     void newOrOpen(int index);
     void insert(int kind);
     void step(bool next);
@@ -122,7 +125,7 @@ private:
     EditorState st_;
     Generator generate_;
     Exporter export_;
-    bool saveFailed_ = false; // the last save could not be written
+    bool lastSaveWritten_ = false; // the last Save command wrote the file
 };
 
 // The support page opened by the About menu's "&Help".
