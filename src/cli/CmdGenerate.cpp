@@ -14,6 +14,7 @@
 #include <QFile>
 
 #include <memory>
+#include <vector>
 
 namespace zentor::cli {
 namespace {
@@ -61,18 +62,32 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
     StderrPrompter prompter;
     // Resampled pictures never fail to read back (an unreadable source turns black), so
     // say here which of them could not be read.
-    const struct {
+    struct Picture {
         QString field;
-        const char* what;
-    } pictures[] = {{doc->Profile.UserIcon.trimNull(), "user icon"},
-                    {doc->Header.BackPicture.trimNull(), "background picture"}};
+        QString what;
+        const char* outcome = "the package gets a black picture";
+    };
+    std::vector<Picture> pictures{
+        {doc->Profile.UserIcon.trimNull(), QStringLiteral("user icon")},
+        {doc->Header.BackPicture.trimNull(), QStringLiteral("background picture")}};
+    const char* const leftOut = "the page is drawn without it";
+    for (int tab = 1; tab <= MaxTab; ++tab)
+        pictures.push_back({doc->Tabs[size_t(tab)].Picture.FileName.trimNull(),
+                            QStringLiteral("picture of page %1").arg(tab), leftOut});
+    for (const ImageElement& image : doc->Images)
+        if (inUse(image))
+            pictures.push_back({image.FileName.trimNull(),
+                                QStringLiteral("picture \"%1\" on page %2")
+                                    .arg(image.Name.trimNull())
+                                    .arg(image.TabNo),
+                                leftOut});
     for (const auto& p : pictures) {
         if (p.field.isEmpty())
             continue;
         const QString path = ResolvePath(doc->ScriptPath, p.field);
         if (ReadPictureSize(path).isEmpty()) {
-            Warn(QStringLiteral("cannot read the %1 %2; the package gets a black picture")
-                     .arg(QLatin1String(p.what), path));
+            Warn(QStringLiteral("cannot read the %1 %2; %3")
+                     .arg(p.what, path, QLatin1String(p.outcome)));
             ++prompter.warnings;
         }
     }

@@ -32,12 +32,13 @@ void PrintJson(const QJsonObject& obj) {
 
 namespace {
 
-int usage() {
+// Asked for, the usage is the answer (stdout, success); otherwise it explains a mistake.
+int usage(bool asked) {
     QString text = QStringLiteral("usage: zentor-cli COMMAND ...\n");
     for (const Command& c : Commands())
         text += QStringLiteral("  zentor-cli %1\n").arg(c.usage);
-    std::fputs(qPrintable(text), stderr);
-    return ExitUsage;
+    std::fputs(qPrintable(text), asked ? stdout : stderr);
+    return asked ? ExitOk : ExitUsage;
 }
 
 bool parse(const Command& cmd, const QStringList& words, Args& args, QString& error) {
@@ -71,9 +72,11 @@ int main(int argc, char** argv) {
     zentor::PrepareRuntimeDir();
     QGuiApplication app(argc, argv);
     QStringList words = app.arguments().mid(1);
-    if (words.isEmpty() || words.first() == QLatin1String("help") ||
-        words.first() == QLatin1String("--help"))
-        return usage();
+    if (words.isEmpty())
+        return usage(false);
+    if (words.first() == QLatin1String("help") || words.first() == QLatin1String("--help") ||
+        words.first() == QLatin1String("-h"))
+        return usage(true);
     const QString name = words.takeFirst();
     for (const Command& cmd : Commands()) {
         if (cmd.name != name)
@@ -92,5 +95,5 @@ int main(int argc, char** argv) {
         return cmd.run(args, ctx);
     }
     Fail(QStringLiteral("unknown command \"%1\"").arg(name), ExitUsage);
-    return usage();
+    return usage(false);
 }

@@ -102,6 +102,12 @@ TEST_F(GenerateRenderedTest, CliGenerateWarnsForEachUnreadableSource) {
     doc->Header.BackMusic = QStringLiteral("gone.mp3");
     doc->Profile.UserIcon = QStringLiteral("gone.png");
     doc->Tabs[4].Icon = QStringLiteral("gone.ico");
+    doc->Tabs[5].Picture.FileName = QStringLiteral("gone-page.jpg");
+    ImageElement& photo = doc->Images[3];
+    photo.TabNo = 6;
+    photo.Name = QStringLiteral("Photo");
+    photo.FileName = QStringLiteral("gone-photo.jpg");
+    photo.Width = photo.Height = 40;
     const QString project = box.path(QStringLiteral("broken.qds"));
     ASSERT_TRUE(SaveScript(*doc, project));
     const struct {
@@ -125,9 +131,10 @@ TEST_F(GenerateRenderedTest, CliGenerateWarnsForEachUnreadableSource) {
                   c.status)
             << stdErr.toStdString();
         const QList<QByteArray> lines = stdErr.trimmed().split('\n');
-        EXPECT_EQ(lines.count(), c.format ? 3 : 4) << stdErr.toStdString();
+        EXPECT_EQ(lines.count(), c.format ? 5 : 6) << stdErr.toStdString();
         EXPECT_TRUE(stdErr.contains("gone.mp3") && stdErr.contains("gone.png") &&
-                    stdErr.contains("gone.ico"))
+                    stdErr.contains("gone.ico") && stdErr.contains("page 5 ") &&
+                    stdErr.contains("\"Photo\" on page 6"))
             << stdErr.toStdString();
         EXPECT_EQ(QFile::exists(out), c.format != nullptr);
         if (!c.format)
