@@ -14,7 +14,6 @@
 #include <QFile>
 
 #include <memory>
-#include <vector>
 
 namespace zentor::cli {
 namespace {
@@ -62,34 +61,42 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
     StderrPrompter prompter;
     // Resampled pictures never fail to read back (an unreadable source turns black), so
     // say here which of them could not be read.
-    struct Picture {
+    const struct {
         QString field;
-        QString what;
-        const char* outcome = "the package gets a black picture";
-    };
-    std::vector<Picture> pictures{
-        {doc->Profile.UserIcon.trimNull(), QStringLiteral("user icon")},
-        {doc->Header.BackPicture.trimNull(), QStringLiteral("background picture")}};
-    const char* const leftOut = "the page is drawn without it";
-    for (int tab = 1; tab <= MaxTab; ++tab)
-        pictures.push_back({doc->Tabs[size_t(tab)].Picture.FileName.trimNull(),
-                            QStringLiteral("picture of page %1").arg(tab), leftOut});
-    for (const ImageElement& image : doc->Images)
-        if (inUse(image))
-            pictures.push_back({image.FileName.trimNull(),
-                                QStringLiteral("picture \"%1\" on page %2")
-                                    .arg(image.Name.trimNull())
-                                    .arg(image.TabNo),
-                                leftOut});
+        const char* what;
+    } pictures[] = {{doc->Profile.UserIcon.trimNull(), "user icon"},
+                    {doc->Header.BackPicture.trimNull(), "background picture"}};
     for (const auto& p : pictures) {
         if (p.field.isEmpty())
             continue;
         const QString path = ResolvePath(doc->ScriptPath, p.field);
         if (ReadPictureSize(path).isEmpty()) {
-            Warn(QStringLiteral("cannot read the %1 %2; %3")
-                     .arg(p.what, path, QLatin1String(p.outcome)));
+            Warn(QStringLiteral("cannot read the %1 %2; the package gets a black picture")
+                     .arg(QLatin1String(p.what), path));
             ++prompter.warnings;
         }
+    }
+
+    // Pictures drawn on the pages: a missing one leaves its place empty, silently in the
+    // package, so it is said here.
+    for (int tab = 1; tab <= 7; ++tab) {
+        const QString name = doc->Tabs[size_t(tab)].Name.text().trimmed();
+        auto check = [&](const QString& field, const QString& what) {
+            if (field.isEmpty())
+                return;
+            const QString path = ResolvePath(doc->ScriptPath, field);
+            if (ReadPictureSize(path).isEmpty()) {
+                Warn(QStringLiteral("cannot read the %1 on page %2: %3; the page is drawn without "
+                                    "it")
+                         .arg(what, name, path));
+                ++prompter.warnings;
+            }
+        };
+        check(doc->Tabs[size_t(tab)].Picture.FileName.trimNull(), QStringLiteral("tab picture"));
+        for (const ImageElement& img : doc->Images)
+            if (&img != &doc->Images[0] && img.TabNo == tab)
+                check(img.FileName.trimNull(),
+                      QStringLiteral("picture of ") + img.Name.text().trimmed());
     }
 
     const ResImages res = ResImages::load();
@@ -98,12 +105,24 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
     gen.setParallel(true);
     if (selfRun)
         gen.setPlayer(PlayerStub());
-    if (gen.writePackage(*doc, out, selfRun) != ResumeGenerator::Outcome::Written)
+    // Strict runs write beside the target first, so a refusal leaves an older file untouched.
+    const QString target = strict ? out + QStringLiteral(".part") : out;
+    if (gen.writePackage(*doc, target, selfRun) != ResumeGenerator::Outcome::Written) {
+        if (strict)
+            QFile::remove(target);
         return ExitError;
+    }
     if (strict && prompter.warnings > 0) {
-        QFile::remove(out);
+        QFile::remove(target);
         return Fail(QStringLiteral("%1 source(s) could not be read; nothing written (--strict)")
                         .arg(prompter.warnings));
+    }
+    if (strict) {
+        QFile::remove(out);
+        if (!QFile::rename(target, out)) {
+            QFile::remove(target);
+            return Fail(QStringLiteral("cannot write %1").arg(out));
+        }
     }
     return ExitOk;
 }

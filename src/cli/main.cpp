@@ -32,13 +32,13 @@ void PrintJson(const QJsonObject& obj) {
 
 namespace {
 
-// Asked for, the usage is the answer (stdout, success); otherwise it explains a mistake.
+// Asked for (--help): on stdout, success. Otherwise a usage error on stderr.
 int usage(bool asked) {
     QString text = QStringLiteral("usage: zentor-cli COMMAND ...\n");
     for (const Command& c : Commands())
         text += QStringLiteral("  zentor-cli %1\n").arg(c.usage);
     std::fputs(qPrintable(text), asked ? stdout : stderr);
-    return asked ? ExitOk : ExitUsage;
+    return asked ? 0 : ExitUsage;
 }
 
 bool parse(const Command& cmd, const QStringList& words, Args& args, QString& error) {

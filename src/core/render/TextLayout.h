@@ -39,8 +39,8 @@ TextBoxLayout LayoutTextBox(const QString& text, double left, double top, double
                             double height, const QString& fontName, int size, int style, int align,
                             int lineAlign);
 
-// The same layout with its shaped glyphs, for painting: line positions in `layout` are in
-// layout pixels, drawn on the page through translate(origin) and scale(scale).
+// The same layout with its shaped glyphs, for painting: positions in `layout` are layout
+// pixels; a page position is origin + position * scale.
 struct ShapedTextBox {
     TextBoxLayout box;
     std::shared_ptr<QTextLayout> layout; // null when nothing is drawn
@@ -51,8 +51,8 @@ ShapedTextBox ShapeTextBox(const QString& text, double left, double top, double 
                            double height, const QString& fontName, int size, int style, int align,
                            int lineAlign);
 
-// The font text is laid out in: a large whole pixel size with its design metrics, which
-// lays out exactly in proportion to any size it is then scaled to.
+// The font text is laid out in: one whole pixel size with its design metrics, which lays
+// out in proportion to any size it is then scaled to.
 QFont LayoutFont(const QString& family, int style);
 
 // Page pixels per layout pixel for a size in points.
