@@ -213,7 +213,7 @@ TEST(CodePage, ChosenForTheLanguageAsWindowsDoes) {
         const char* locale;
         const char* page;
     } cases[] = {
-        {"en_US", "1252"}, {"de_DE", "1252"}, {"pl_PL", "1250"}, {"sr_RS@latin", "1250"},
+        {"en_US", "1252"}, {"de_DE", "1252"}, {"pl_PL", "1250"}, {"sr_Latn_RS", "1250"},
         {"ru_RU", "1251"}, {"sr_RS", "1251"}, {"el_GR", "1253"}, {"tr_TR", "1254"},
         {"he_IL", "1255"}, {"ar_EG", "1256"}, {"lt_LT", "1257"}, {"vi_VN", "1258"},
         {"th_TH", "874"},  {"ja_JP", "932"},  {"zh_CN", "936"},  {"ko_KR", "949"},

@@ -380,7 +380,11 @@ TEST_F(PropsPanes, BoxesSayWhichCharactersTheCodePageLoses) {
         stack->setCurrentIndex(b.pane);
         QWidget* box = control(b.pane, b.box);
         auto* note = control<QLabel>(b.pane, (std::string(b.box) + "CodePageNote").c_str());
-        type(box, QStringLiteral("Ελένη Łucja"));
+        // Typed keys are ASCII only in the test driver; the note follows any change.
+        if (auto* line = qobject_cast<QLineEdit*>(box))
+            line->setText(QStringLiteral("Ελένη Łucja"));
+        else
+            qobject_cast<QPlainTextEdit*>(box)->setPlainText(QStringLiteral("Ελένη Łucja"));
         EXPECT_TRUE(note->isVisible());
         EXPECT_EQ(note->text(), "Code page windows-1252 cannot store \"ΕλένηŁ\"; saved as \"?\".");
         type(box, QStringLiteral("Lena"));
