@@ -27,6 +27,7 @@ void Editor::formLoad() {
     applyStripCaptions();
     LoadTab(st_.CurrentTab);
     doc_.Dirty = false;
+    resetHistory();
 }
 
 bool Editor::queryUnload() {
@@ -170,6 +171,7 @@ void Editor::commitInPlaceEdit() {
     const int i = st_.SelectedIndex;
     if (i >= 0 && i <= MaxTexts)
         doc_.Texts[i].Text = *text;
+    recordChange(StepName(QStringLiteral("Edit"), KindText, i));
     view_.closeInPlaceEditor(*text);
     RefreshTab(st_.CurrentTab);
 }

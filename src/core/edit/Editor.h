@@ -3,6 +3,7 @@
 #include "edit/EditorState.h"
 #include "edit/EditorView.h"
 #include "edit/Prompter.h"
+#include "edit/UndoStack.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
 
@@ -91,6 +92,17 @@ public:
     void handleMouseMove(int handle, IntPoint p);
     void handleMouseUp(int handle);
 
+    // --- Undo ---
+    const UndoStack& undoStack() const { return undo_; }
+    // What changed since the last step becomes one step called `name`; a change with the
+    // merge key of the previous one extends it.
+    void recordChange(const QString& name, const QString& mergeKey = {});
+    // Changes made outside the editor's commands (the property panes, the settings) become
+    // a step named after the selection.
+    void recordPending();
+    void undo();
+    void redo();
+
     // --- In-place text editor ---
     void inPlaceTextChanged() { doc_.Dirty = true; }
     // Stores an open in-place edit into the selected text and closes the editor.
@@ -109,6 +121,8 @@ private:
     // A move of the selection frame starts: the pressed control shows the move pointer.
     void beginMove(EditorView::PointerTarget target, IntPoint p);
     void moveFrameTo(IntPoint p);
+    void resetHistory();
+    void showRestored();
 
     Document& doc_;
     const ProcessContext& ctx_;
@@ -117,6 +131,8 @@ private:
     EditorState st_;
     Generator generate_;
     bool saveFailed_ = false; // the last save could not be written
+    UndoStack undo_;
+    DocumentRecords base_; // the records as the last step left them
 };
 
 // The support page opened by the About menu's "&Help".
