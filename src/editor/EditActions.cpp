@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QShortcut>
 
 namespace zentor {
 
@@ -45,6 +46,26 @@ void AddUndoActions(QMenu* edit, Editor& editor, std::function<void()> commitPen
         undo->setEnabled(true);
         redo->setEnabled(true);
     });
+}
+
+void AddWorkspaceKeys(QWidget* workspace, Editor& editor) {
+    auto bind = [&](QKeySequence keys, std::function<void()> run) {
+        auto* s = new QShortcut(keys, workspace);
+        s->setContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(s, &QShortcut::activated, workspace, std::move(run));
+    };
+    const struct {
+        Qt::Key key;
+        int dx, dy;
+    } arrows[] = {
+        {Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}};
+    for (const auto& a : arrows) {
+        bind(QKeySequence(a.key), [&editor, a] { editor.nudge(a.dx, a.dy); });
+        bind(QKeySequence(Qt::SHIFT | a.key), [&editor, a] { editor.nudge(10 * a.dx, 10 * a.dy); });
+    }
+    bind(QKeySequence(Qt::Key_Tab), [&editor] { editor.selectNextObject(true); });
+    bind(QKeySequence(Qt::Key_Backtab), [&editor] { editor.selectNextObject(false); });
+    bind(QKeySequence(Qt::SHIFT | Qt::Key_Backtab), [&editor] { editor.selectNextObject(false); });
 }
 
 } // namespace zentor

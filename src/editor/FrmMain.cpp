@@ -295,6 +295,7 @@ void FrmMain::buildFrame() {
     picWorkSpace_->setObjectName(QStringLiteral("PicWorkSpace"));
     picWorkSpace_->setGeometry(0, 0, 800, 600);
 
+    AddWorkspaceKeys(picWorkSpace_, editor_);
     labAdd_ = new SelectionFrame(picWorkSpace_);
     labAdd_->setObjectName(QStringLiteral("LabAdd"));
     labAdd_->hide();

@@ -142,3 +142,47 @@ TEST(EditUndo, ChangesWithOneMergeKeyAreOneStep) {
 }
 
 } // namespace
+
+namespace {
+
+TEST(EditKeys, NudgesMoveTheSelectionWithTheDragClampsAndARunIsOneStep) {
+    const struct {
+        IntPoint step; // per key press
+        int presses;
+        IntRect after;
+    } cases[] = {
+        {{1, 0}, 3, {103, 100, 50, 50}},
+        {{0, -10}, 2, {100, 80, 50, 50}},
+        {{-10, 0}, 20, {0, 100, 50, 50}},   // stops on the left border
+        {{0, 10}, 100, {100, 550, 50, 50}}, // and on the bottom one
+    };
+    for (const auto& c : cases) {
+        UndoFixture f;
+        const QByteArray before = Bytes(*f.doc);
+        for (int i = 0; i < c.presses; ++i)
+            EXPECT_TRUE(f.editor.nudge(c.step.x, c.step.y));
+        const ImageElement& e = f.doc->Images[1];
+        EXPECT_EQ((IntRect{e.Left, e.Top, e.Width, e.Height}), c.after);
+        EXPECT_EQ(f.view.frame, c.after);
+        EXPECT_TRUE(f.doc->Dirty);
+        EXPECT_EQ(f.editor.undoStack().undoName(), "Move image 1");
+        f.editor.undo();
+        EXPECT_EQ(Bytes(*f.doc), before);
+    }
+}
+
+TEST(EditKeys, TabStepsThroughThePageObjectsAndNothingElseNudges) {
+    UndoFixture f;
+    ASSERT_EQ(f.view.rows.size(), 3); // the page, image 1, text 1
+    ASSERT_EQ(f.view.currentRow, 1);
+    f.editor.selectNextObject(true);
+    EXPECT_EQ(f.view.currentRow, 2);
+    f.editor.selectNextObject(true);
+    EXPECT_EQ(f.view.currentRow, 0); // wraps to the page itself
+    EXPECT_FALSE(f.editor.nudge(1, 0));
+    f.editor.selectNextObject(false);
+    EXPECT_EQ(f.view.currentRow, 2);
+    EXPECT_EQ(f.editor.state().SelectedKind, KindText);
+}
+
+} // namespace

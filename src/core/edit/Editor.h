@@ -103,6 +103,13 @@ public:
     void undo();
     void redo();
 
+    // --- Keyboard ---
+    // Moves the selected picture or text by (dx, dy) with a drag's clamps; a run of nudges
+    // of one object is one step. False when nothing selected can move.
+    bool nudge(int dx, int dy);
+    // Selects the next (previous) row of the page's object list, wrapping around.
+    void selectNextObject(bool forward);
+
     // --- In-place text editor ---
     void inPlaceTextChanged() { doc_.Dirty = true; }
     // Stores an open in-place edit into the selected text and closes the editor.

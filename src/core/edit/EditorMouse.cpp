@@ -14,6 +14,7 @@ bool ContentTab(int tab) {
 void Editor::workspaceMouseDown(MouseButton b, IntPoint p) {
     commitInPlaceEdit();
     recordPending();
+    undo_.breakMerge();
     const int row = SelectByMouse(doc_, st_.ObjectMap, st_.CurrentTab, p.x, p.y);
     if (row >= 0)
         selectRow(row);

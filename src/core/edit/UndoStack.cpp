@@ -59,6 +59,7 @@ bool UndoStack::undo(Document& doc) {
     if (!canUndo())
         return false;
     --index_;
+    mergeKey_.clear();
     restore(steps_[index_].before, doc);
     return true;
 }
@@ -68,6 +69,7 @@ bool UndoStack::redo(Document& doc) {
         return false;
     restore(steps_[index_].after, doc);
     ++index_;
+    mergeKey_.clear();
     return true;
 }
 
