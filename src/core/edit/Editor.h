@@ -136,6 +136,7 @@ private:
     // A move of the selection frame starts: the pressed control shows the move pointer.
     void beginMove(EditorView::PointerTarget target, IntPoint p);
     void moveFrameTo(IntPoint p);
+    void travel(bool back); // undo or redo
     void resetHistory();
     void showRestored();
 

@@ -12,18 +12,17 @@ void Editor::recordPending() {
 }
 
 void Editor::undo() {
-    commitInPlaceEdit();
-    recordPending();
-    if (!undo_.undo(doc_))
-        return;
-    base_ = RecordsOf(doc_);
-    showRestored();
+    travel(true);
 }
 
 void Editor::redo() {
+    travel(false);
+}
+
+void Editor::travel(bool back) {
     commitInPlaceEdit();
     recordPending();
-    if (!undo_.redo(doc_))
+    if (!(back ? undo_.undo(doc_) : undo_.redo(doc_)))
         return;
     base_ = RecordsOf(doc_);
     showRestored();

@@ -10,20 +10,14 @@ namespace {
 // A step holds two document copies; older steps fall off beyond this.
 constexpr int MaxSteps = 64;
 
-QByteArray BytesOf(const DocumentRecords& r) {
-    Document d;
-    d.Header = r.Header;
-    d.Profile = r.Profile;
-    d.Tabs = r.Tabs;
-    d.Images = r.Images;
-    d.Texts = r.Texts;
-    return SerializeScript(d);
+QByteArray BytesOf(DocumentRecords copy) {
+    return SerializeScript(copy);
 }
 
 } // namespace
 
 DocumentRecords RecordsOf(const Document& doc) {
-    return {doc.Header, doc.Profile, doc.Tabs, doc.Images, doc.Texts};
+    return doc;
 }
 
 bool SameRecords(const DocumentRecords& a, const DocumentRecords& b) {
@@ -74,11 +68,9 @@ bool UndoStack::redo(Document& doc) {
 }
 
 void UndoStack::restore(const DocumentRecords& r, Document& doc) const {
-    doc.Header = r.Header;
-    doc.Profile = r.Profile;
-    doc.Tabs = r.Tabs;
-    doc.Images = r.Images;
-    doc.Texts = r.Texts;
+    const QString path = doc.ScriptPath;
+    doc = r;
+    doc.ScriptPath = path;
     doc.Dirty = !isClean();
 }
 

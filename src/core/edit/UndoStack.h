@@ -8,15 +8,9 @@
 
 namespace zentor {
 
-// The records of a document, which is what a step restores (the path and the dirty flag
-// belong to the file, not to an edit).
-struct DocumentRecords {
-    ScriptHeader Header;
-    ProfileRecord Profile;
-    std::array<TabRecord, MaxTab + 1> Tabs;
-    std::array<ImageElement, MaxImages + 1> Images;
-    std::array<TextElement, MaxTexts + 1> Texts;
-};
+// A snapshot of a document: a step restores its records but never its path or dirty flag,
+// which belong to the file rather than to an edit.
+using DocumentRecords = Document;
 
 DocumentRecords RecordsOf(const Document& doc);
 // True when both would be saved as the same bytes.
