@@ -487,10 +487,12 @@ TEST_F(WindowTest, WorkspaceKeysNudgeAndStepAndTheEditMenuUndoesByName) {
     QTest::keyClick(ws, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(record(slot), QRect(110, 101, 60, 20));
 
+    const int row = state().CurrentRow;
     QTest::keyClick(ws, Qt::Key_Tab);
-    EXPECT_EQ(state().SelectedKind, KindTab);
+    EXPECT_EQ(state().CurrentRow, (row + 1) % int(state().Rows.size()));
     QTest::keyClick(ws, Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(state().SelectedKind, KindText);
+    EXPECT_EQ(state().CurrentRow, row);
+    EXPECT_EQ(state().SelectedIndex, slot);
 }
 
 } // namespace
