@@ -45,7 +45,7 @@ TEST(EditUndo, EveryKindOfChangeIsOneNamedStepThatUndoesAndRedoesToTheSameBytes)
                                        Answer::Yes);
              f.editor.menuCommand(CmdDelete);
          }},
-        {"Send image 1 to bottom", [](UndoFixture& f) { f.editor.menuCommand(CmdMoveToBottom); }},
+        {"Bring image 1 to top", [](UndoFixture& f) { f.editor.menuCommand(CmdMoveToTop); }},
         {"Move image 1",
          [](UndoFixture& f) {
              f.editor.frameMouseDown(MouseButton::Left, {110, 110});

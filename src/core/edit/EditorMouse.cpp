@@ -57,11 +57,8 @@ void Editor::workspaceMouseUp(MouseButton b) {
         // A move by the workspace leaves the dirty flag alone (the frame's own move sets it).
         st_.WorkspaceMoving = false;
         view_.setPointer(EditorView::PointerTarget::Workspace, EditorView::Pointer::Normal);
-        const bool dirty = doc_.Dirty;
         RefreshData();
-        // Undoable like any move, but the flag stays as it was.
         recordChange(StepName(QStringLiteral("Move"), st_.SelectedKind, st_.SelectedIndex));
-        doc_.Dirty = dirty;
         RefreshTab(st_.CurrentTab);
     } else if (b == MouseButton::Right && ContentTab(st_.CurrentTab)) {
         view_.showEditMenu();

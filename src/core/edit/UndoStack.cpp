@@ -45,7 +45,6 @@ bool UndoStack::push(const QString& name, const DocumentRecords& before, Documen
         index_ = int(steps_.size());
     }
     mergeKey_ = mergeKey;
-    doc.Dirty = !isClean();
     return true;
 }
 

@@ -17,8 +17,9 @@ DocumentRecords RecordsOf(const Document& doc);
 bool SameRecords(const DocumentRecords& a, const DocumentRecords& b);
 
 // Undo history of whole-record snapshots: a document is a few hundred fixed records, so a
-// copy per step is cheaper to get right than per-field inverse operations. Dirty follows
-// the stack: the document is clean exactly at the step it was last saved or opened at.
+// copy per step is cheaper to get right than per-field inverse operations. Recording leaves
+// Dirty to the command that changed the document; undo and redo set it from the stack: clean
+// exactly at the step the document was last saved or opened at.
 class UndoStack {
 public:
     // Records a change that turned `before` into `doc`. Nothing is recorded when the bytes
