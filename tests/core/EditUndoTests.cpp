@@ -45,7 +45,6 @@ TEST(EditUndo, EveryKindOfChangeIsOneNamedStepThatUndoesAndRedoesToTheSameBytes)
                                        Answer::Yes);
              f.editor.menuCommand(CmdDelete);
          }},
-        {"Bring image 1 to top", [](UndoFixture& f) { f.editor.menuCommand(CmdMoveToTop); }},
         {"Move image 1",
          [](UndoFixture& f) {
              f.editor.frameMouseDown(MouseButton::Left, {110, 110});
