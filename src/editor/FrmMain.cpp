@@ -1,6 +1,7 @@
 #include "editor/FrmMain.h"
 
 #include "edit/WorkspaceLayout.h"
+#include "editor/EditActions.h"
 #include "editor/PropertyPanes.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
@@ -163,6 +164,7 @@ void FrmMain::buildMenus() {
           {8, "Move To &Bottom", cmd(CmdMoveToBottom)},
           {9, nullptr, {}},
           {10, "Setting", cmd(CmdSettings)}});
+    AddUndoActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
 
     mainAbout_ = menuBar()->addMenu(QStringLiteral("&About"));
     mainAbout_->setObjectName(QStringLiteral("MainAbout"));
@@ -310,6 +312,7 @@ void FrmMain::buildFrame() {
     picWorkSpace_->setObjectName(QStringLiteral("PicWorkSpace"));
     picWorkSpace_->setGeometry(0, 0, 800, 600);
 
+    AddWorkspaceKeys(picWorkSpace_, editor_);
     labAdd_ = new SelectionFrame(picWorkSpace_);
     labAdd_->setObjectName(QStringLiteral("LabAdd"));
     labAdd_->hide();
