@@ -75,6 +75,9 @@ bool VideoEncoder::open(const QString& path, QSize size, int fps, const QString&
     s.video->time_base = AVRational{1, fps};
     s.video->framerate = AVRational{fps, 1};
     s.video->gop_size = fps * 10;
+    // With frames seconds apart, B-frame reordering would push decode times far before
+    // zero; without it every picture decodes at the moment it shows.
+    s.video->max_b_frames = 0;
     if (s.fmt->oformat->flags & AVFMT_GLOBALHEADER)
         s.video->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     // Only cross-fades move, and each fade frame is new picture everywhere: a fast preset
