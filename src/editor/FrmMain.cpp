@@ -1,5 +1,6 @@
 #include "editor/FrmMain.h"
 
+#include "VideoExportRun.h"
 #include "edit/WorkspaceLayout.h"
 #include "editor/EditActions.h"
 #include "editor/PropertyPanes.h"
@@ -150,6 +151,16 @@ void FrmMain::buildMenus() {
           {8, "Save &as...", cmd(CmdSaveAs)},
           {9, nullptr, {}},
           {10, "&Exit", [this] { close(); }}});
+
+    // Added after the original items so their numbered names stay as they were.
+    QAction* video = new QAction(QStringLiteral("Export &Video..."), mainFile_);
+    video->setObjectName(QStringLiteral("SubFileVideo"));
+    mainFile_->insertAction(findChild<QAction*>(QStringLiteral("SubFile6")), video);
+    connect(video, &QAction::triggered, this, [this] {
+        panes_->commitPendingEdit();
+        editor_.commitInPlaceEdit();
+        ExportVideoInteractive(this, doc_, res_);
+    });
 
     mainEdit_ = menuBar()->addMenu(QStringLiteral("&Edit"));
     mainEdit_->setObjectName(QStringLiteral("MainEdit"));
