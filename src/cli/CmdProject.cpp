@@ -6,6 +6,7 @@
 #include "model/CodePage.h"
 #include "model/CodePageCheck.h"
 #include "model/DefaultDocument.h"
+#include "render/PageCompositor.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -132,6 +133,16 @@ std::unique_ptr<Document> OpenProject(const QString& path, const ProcessContext&
         return nullptr;
     }
     return doc;
+}
+
+bool CheckFrameDrawable(const QString& project, const Document& doc) {
+    if (!FrameSize(doc).isEmpty())
+        return true;
+    Fail(QStringLiteral("%1: the frame size %2 x %3 cannot be drawn")
+             .arg(project)
+             .arg(doc.Header.FrameWidth)
+             .arg(doc.Header.FrameHeight));
+    return false;
 }
 
 } // namespace zentor::cli

@@ -44,11 +44,8 @@ int runVideo(const Args& args, const ProcessContext& ctx) {
         return ExitError;
     if (!report.complete)
         return Fail(QStringLiteral("%1 is damaged or cut short").arg(project));
-    if (FrameSize(*doc).isEmpty())
-        return Fail(QStringLiteral("%1: the frame size %2 x %3 cannot be drawn")
-                        .arg(project)
-                        .arg(doc->Header.FrameWidth)
-                        .arg(doc->Header.FrameHeight));
+    if (!CheckFrameDrawable(project, *doc))
+        return ExitError;
 
     const ResImages res = ResImages::load();
     PageShowFrames show(*doc, res);
