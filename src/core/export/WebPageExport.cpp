@@ -25,10 +25,46 @@ namespace {
 
 constexpr int PageQuality = 90;
 
-QString DataUri(const char* mime, const QByteArray& bytes) {
-    return QStringLiteral("data:%1;base64,").arg(QLatin1String(mime)) +
-           QString::fromLatin1(bytes.toBase64());
-}
+// Pictures and music go into the page as data URIs. Megabytes of them would cost more to
+// pass through the JSON writer than to draw the pages, so the JSON carries a stand-in for
+// each, put in place at the end.
+class DataUris {
+public:
+    QString add(const char* mime, const QByteArray& bytes) {
+        uris_.push_back("data:" + QByteArray(mime) + ";base64," + bytes.toBase64());
+        return Mark + QString::number(uris_.size() - 1);
+    }
+    // `json` with every stand-in replaced by its URI.
+    QByteArray fill(const QByteArray& json) const {
+        static const QByteArray written = "\"\\u0001uri"; // how the JSON writer escapes Mark
+        qsizetype size = json.size();
+        for (const QByteArray& u : uris_)
+            size += u.size();
+        QByteArray out;
+        out.reserve(size);
+        qsizetype from = 0;
+        for (qsizetype at; (at = json.indexOf(written, from)) >= 0;) {
+            qsizetype end = at + written.size();
+            size_t index = 0;
+            while (end < json.size() && json[end] >= '0' && json[end] <= '9')
+                index = index * 10 + size_t(json[end++] - '0');
+            if (end >= json.size() || json[end] != '"' || index >= uris_.size()) {
+                out += json.mid(from, end - from);
+                from = end;
+                continue;
+            }
+            out += json.mid(from, at - from);
+            out += '"' + uris_[index] + '"';
+            from = end + 1;
+        }
+        out += json.mid(from);
+        return out;
+    }
+
+private:
+    static inline const QString Mark = QStringLiteral("\u0001uri");
+    std::vector<QByteArray> uris_;
+};
 
 QJsonObject Box(int left, int top, int width, int height) {
     return QJsonObject{{"left", left}, {"top", top}, {"width", width}, {"height", height}};
@@ -68,7 +104,7 @@ QJsonObject TextLayer(const QString& text, double left, double top, double width
 }
 
 // The page's texts and picture objects in drawing order, for the layer over its picture.
-QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg) {
+QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg, DataUris& uris) {
     const int tab = page == SlideShowTab ? 1 : page;
     QJsonArray images, texts;
     for (int i = 1; i <= MaxImages; ++i) {
@@ -92,12 +128,12 @@ QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg) {
     const QString name = page == SlideShowTab ? QStringLiteral("Slide Show")
                                               : doc.Tabs[size_t(page)].Name.trimNull();
     return QJsonObject{{"name", name},
-                       {"picture", DataUri("image/jpeg", jpeg)},
+                       {"picture", uris.add("image/jpeg", jpeg)},
                        {"images", images},
                        {"texts", texts}};
 }
 
-QJsonObject HomeLayer(const Document& doc, const QByteArray& jpeg) {
+QJsonObject HomeLayer(const Document& doc, const QByteArray& jpeg, DataUris& uris) {
     const QSize frame = FrameSize(doc);
     QJsonArray lines;
     for (const ContactLine& line : ContactLines(doc))
@@ -114,7 +150,7 @@ QJsonObject HomeLayer(const Document& doc, const QByteArray& jpeg) {
     const int contactsWidth = 300;
     return QJsonObject{
         {"name", PersonName(doc)},
-        {"picture", DataUri("image/jpeg", jpeg)},
+        {"picture", uris.add("image/jpeg", jpeg)},
         {"texts", texts},
         {"contacts", QJsonObject{{"box", Box((frame.width() - contactsWidth) / 2, captionTop + 28,
                                              contactsWidth, 19 * int(lines.size()))},
@@ -141,16 +177,18 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
 
     QJsonObject show = WebShowNumbers(doc);
     show.insert("title", PersonName(doc));
+    DataUris uris;
     QJsonObject pages;
     for (int page = 1; page <= SlideShowTab; ++page)
-        pages.insert(QString::number(page),
-                     PageLayer(doc, page, pictures.take(size_t(page - 1)).value_or(QByteArray())));
-    show.insert("home", HomeLayer(doc, pictures.take(SlideShowTab).value_or(QByteArray())));
+        pages.insert(
+            QString::number(page),
+            PageLayer(doc, page, pictures.take(size_t(page - 1)).value_or(QByteArray()), uris));
+    show.insert("home", HomeLayer(doc, pictures.take(SlideShowTab).value_or(QByteArray()), uris));
     show.insert("pages", pages);
     QByteArray music;
     const QString musicPath = ResolvePath(doc.ScriptPath, doc.Header.BackMusic.trimNull());
     if (!doc.Header.BackMusic.trimNull().isEmpty() && ReadFileBytes(musicPath, music) > 0)
-        show.insert("music", DataUri("audio/mpeg", music));
+        show.insert("music", uris.add("audio/mpeg", music));
 
     // "</script" or "<!--" in a text would change how the page reads its script element; a
     // '<' only stands inside JSON strings, where its escape means the same.
@@ -158,7 +196,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     data.replace("<", "\\u003c");
     QByteArray page = WebPageTemplate();
     page.replace("@TITLE@", PersonName(doc).toHtmlEscaped().toUtf8());
-    page.replace("@DATA@", data);
+    page.replace("@DATA@", uris.fill(data));
     return page;
 }
 
