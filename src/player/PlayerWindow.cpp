@@ -58,8 +58,8 @@ bool KeyOf(int qtKey, show::ShowKey& key) {
 } // namespace
 
 PlayerWindow::PlayerWindow(const ShowPictures& pictures, const show::ShowSettings& settings,
-                           MusicOut* music)
-    : pictures_(pictures), model_(settings, 0), music_(music),
+                           std::function<MusicOut*()> startMusic)
+    : pictures_(pictures), model_(settings, 0), startMusic_(std::move(startMusic)),
       ring_(show::RingRects(pictures.frame().width(), pictures.frame().height())) {
     clock_.start();
     tick_.setSingleShot(true);
@@ -87,6 +87,12 @@ void PlayerWindow::paintEvent(QPaintEvent*) {
     p.drawImage(0, 0, PaintShowFrame(pictures_, state, size(), hover_));
     p.end();
     schedule();
+    if (startMusic_)
+        QTimer::singleShot(0, this, [this, start = std::exchange(startMusic_, nullptr)] {
+            music_ = start();
+            if (music_)
+                music_->setMuted(model_.muted());
+        });
 }
 
 void PlayerWindow::schedule() {

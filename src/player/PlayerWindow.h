@@ -7,6 +7,8 @@
 #include <QRasterWindow>
 #include <QTimer>
 
+#include <functional>
+
 namespace zentor {
 
 class MusicOut;
@@ -16,7 +18,10 @@ class MusicOut;
 // passes keys, clicks on the ring and on contact links to it.
 class PlayerWindow : public QRasterWindow {
 public:
-    PlayerWindow(const ShowPictures& pictures, const show::ShowSettings& settings, MusicOut* music);
+    // `startMusic` runs once the first frame is on screen, so that setting up the sound
+    // never delays the picture; it returns where the music goes (or nullptr).
+    PlayerWindow(const ShowPictures& pictures, const show::ShowSettings& settings,
+                 std::function<MusicOut*()> startMusic);
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -33,7 +38,8 @@ private:
 
     const ShowPictures& pictures_;
     show::ShowModel model_;
-    MusicOut* music_;
+    std::function<MusicOut*()> startMusic_;
+    MusicOut* music_ = nullptr;
     QElapsedTimer clock_;
     QTimer tick_;
     show::IconRectTable ring_;

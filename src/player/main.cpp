@@ -17,6 +17,7 @@
 #include <QScreen>
 
 #include <cstdio>
+#include <memory>
 
 using namespace zentor;
 
@@ -149,9 +150,12 @@ int main(int argc, char** argv) {
         return fail(QStringLiteral("no display to show the résumé on; use --info or --export DIR"));
 
     // Music that cannot be played leaves the show silent, never stopped.
-    QtMusicOut music;
-    StartMusic(music, package);
-    PlayerWindow window(pictures, show::ShowSettingsOf(package.Info.Header), &music);
+    std::unique_ptr<QtMusicOut> music;
+    PlayerWindow window(pictures, show::ShowSettingsOf(package.Info.Header), [&]() -> MusicOut* {
+        music = std::make_unique<QtMusicOut>();
+        StartMusic(*music, package);
+        return music.get();
+    });
     // Full screen needs a window manager's help; the geometry makes it fill without one.
     window.setGeometry(window.screen()->geometry());
     window.showFullScreen();
