@@ -59,7 +59,8 @@ bool KeyOf(int qtKey, show::ShowKey& key) {
 
 PlayerWindow::PlayerWindow(const ShowPictures& pictures, const show::ShowSettings& settings,
                            std::function<MusicOut*()> startMusic)
-    : pictures_(pictures), model_(settings, 0), startMusic_(std::move(startMusic)),
+    : pictures_(pictures), model_(settings, 0, pictures.showOrder()),
+      startMusic_(std::move(startMusic)),
       ring_(show::RingRects(pictures.frame().width(), pictures.frame().height())) {
     clock_.start();
     tick_.setSingleShot(true);

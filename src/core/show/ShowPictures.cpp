@@ -58,6 +58,17 @@ QSize SaneFrame(const ScriptHeader& h) {
                : FallbackFrame;
 }
 
+// A page that holds nothing comes out one flat colour. A quarter of the size is decoded
+// (JPEG scales while decoding), enough to keep the smallest text. A page that cannot be
+// decoded is not called empty: the show keeps its place.
+bool IsEmptyPage(const QByteArray& blob, QSize frame) {
+    const QImage small = LoadPictureData(blob, (frame / 4).expandedTo(QSize(1, 1)))
+                             .convertToFormat(QImage::Format_RGB32);
+    return !small.isNull() &&
+           show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()), small.width(),
+                               small.height(), int(small.bytesPerLine() / 4));
+}
+
 } // namespace
 
 ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
@@ -73,6 +84,10 @@ ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
     person_ = package.Profile.FirstName.text().trimmed() + QLatin1Char(' ') +
               package.Profile.LastName.text().trimmed();
     contacts_ = show::LayoutHome(package.Info.Profile, frame_.width(), frame_.height());
+    std::array<bool, Package::EntryCount> empty{};
+    for (int entry : show::PageOrder)
+        empty[size_t(entry)] = IsEmptyPage(blobs_[size_t(entry)], frame_);
+    order_ = show::ShowOrder(empty);
 }
 
 QString ShowPictures::tabName(int icon) const {
