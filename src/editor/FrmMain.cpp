@@ -159,7 +159,7 @@ void FrmMain::buildMenus() {
     connect(video, &QAction::triggered, this, [this] {
         panes_->commitPendingEdit();
         editor_.commitInPlaceEdit();
-        ExportVideoInteractive(this, doc_, res_);
+        ExportVideoInteractive(this, doc_, res_, ctx_);
     });
 
     mainEdit_ = menuBar()->addMenu(QStringLiteral("&Edit"));

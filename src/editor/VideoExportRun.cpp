@@ -1,6 +1,6 @@
 #include "VideoExportRun.h"
 
-#include "export/PageShowFrames.h"
+#include "export/PackageShowFrames.h"
 #include "export/VideoExport.h"
 #include "model/Document.h"
 
@@ -12,7 +12,8 @@
 
 namespace zentor {
 
-void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res) {
+void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res,
+                            const ProcessContext& ctx) {
     const QString start = doc.ScriptPath.isEmpty()
                               ? QStringLiteral("resume.mp4")
                               : QFileInfo(doc.ScriptPath).path() + QLatin1Char('/') +
@@ -25,20 +26,26 @@ void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImage
     if (!path.endsWith(QLatin1String(".mp4"), Qt::CaseInsensitive))
         path += QStringLiteral(".mp4");
 
-    PageShowFrames show(doc, res);
+    QStringList warnings;
+    QString error;
+    const auto show = DocumentShowFrames(doc, ctx, res, warnings, error);
+    if (!show) {
+        QMessageBox::warning(parent, QStringLiteral("Export Video"), error);
+        return;
+    }
     QProgressDialog progress(QStringLiteral("Recording the video..."), QStringLiteral("Cancel"), 0,
-                             show.stepCount(), parent);
+                             show->stepCount(), parent);
     progress.setWindowTitle(QStringLiteral("Export Video"));
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(0);
-    const VideoResult result =
-        ExportVideo(doc, show, path, VideoOptions{}, [&](int step, int steps) {
-            progress.setLabelText(QStringLiteral("Page %1 of %2").arg(step).arg(steps));
-            progress.setValue(step - 1);
-            QApplication::processEvents();
-            return !progress.wasCanceled();
-        });
+    VideoResult result = ExportVideo(doc, *show, path, VideoOptions{}, [&](int step, int steps) {
+        progress.setLabelText(QStringLiteral("Page %1 of %2").arg(step).arg(steps));
+        progress.setValue(step - 1);
+        QApplication::processEvents();
+        return !progress.wasCanceled();
+    });
     progress.close();
+    result.warnings = warnings + result.warnings;
     if (result.outcome == VideoResult::Outcome::Failed)
         QMessageBox::warning(parent, QStringLiteral("Export Video"), result.error);
     else if (result.outcome == VideoResult::Outcome::Written && !result.warnings.isEmpty())

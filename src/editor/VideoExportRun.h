@@ -6,9 +6,11 @@ namespace zentor {
 
 struct Document;
 class ResImages;
+struct ProcessContext;
 
 // File > Export Video: asks where to write, records the show with a cancellable progress
 // dialog and says how it went.
-void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res);
+void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res,
+                            const ProcessContext& ctx);
 
 } // namespace zentor
