@@ -11,11 +11,6 @@ using namespace zentor::test;
 
 namespace {
 
-QByteArray Bytes(const Document& d) {
-    Document copy = d;
-    return SerializeScript(copy);
-}
-
 IntRect RectOf(const ImageElement& e) {
     return {e.Left, e.Top, e.Width, e.Height};
 }
@@ -55,12 +50,12 @@ TEST(ObjectClipboard, PastesOnlyObjectsOntoContentPagesWithRoomAndOtherwiseChang
             for (int i = 1; i <= MaxTexts; ++i)
                 PlaceText(*doc, i, 3);
         }
-        const QByteArray before = Bytes(*doc);
+        const QByteArray before = SavedBytes(*doc);
         const ImageElement imageTemplate = doc->Images[0];
         const PasteResult r = PasteObject(*doc, c.clip, c.tab);
         EXPECT_EQ(r.outcome, c.outcome);
         if (c.outcome != O::Pasted) {
-            EXPECT_EQ(Bytes(*doc), before);
+            EXPECT_EQ(SavedBytes(*doc), before);
             EXPECT_EQ(doc->Images[0], imageTemplate);
             continue;
         }
@@ -122,16 +117,16 @@ TEST(EditClipboard, CutPasteAndDuplicateAreOneNamedStepEachThatUndoesToTheSameBy
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         ClipFixture f;
-        const QByteArray before = Bytes(*f.doc);
+        const QByteArray before = SavedBytes(*f.doc);
         c.change(f);
         EXPECT_TRUE(f.doc->Dirty);
-        const QByteArray after = Bytes(*f.doc);
+        const QByteArray after = SavedBytes(*f.doc);
         EXPECT_NE(after, before);
         EXPECT_EQ(f.editor.undoStack().undoName(), QLatin1String(c.name));
         f.editor.undo();
-        EXPECT_EQ(Bytes(*f.doc), before);
+        EXPECT_EQ(SavedBytes(*f.doc), before);
         f.editor.redo();
-        EXPECT_EQ(Bytes(*f.doc), after);
+        EXPECT_EQ(SavedBytes(*f.doc), after);
         EXPECT_PROMPTS_DONE(f.prompter);
     }
 }

@@ -19,11 +19,6 @@ using Answer = Prompter::Answer;
 
 namespace {
 
-QByteArray Bytes(const Document& d) {
-    Document copy = d;
-    return SerializeScript(copy);
-}
-
 QString Picture(const Sandbox& box, const char* name, int w, int h) {
     const QString path = box.path(QLatin1String(name));
     Solid(w, h, 0xff336699).save(path, "PNG");
@@ -67,11 +62,11 @@ TEST(DropFiles, PicturesOnAContentPageAreOneStepAndElsewhereNothing) {
     EditorFixture f;
     const QString a = Picture(f.box, "a.png", 200, 100);
     const QString b = Picture(f.box, "b.png", 40, 40);
-    const QByteArray clean = Bytes(*f.doc);
+    const QByteArray clean = SavedBytes(*f.doc);
     f.editor.dropFiles({a}, IntPoint{400, 300}); // the profile page
     f.showTab(2);
     f.editor.dropFiles({a}, std::nullopt); // beside the page
-    EXPECT_EQ(Bytes(*f.doc), clean);
+    EXPECT_EQ(SavedBytes(*f.doc), clean);
 
     f.editor.dropFiles({a, b}, IntPoint{400, 300});
     EXPECT_EQ(f.doc->Images[1].FileName.trimNull(), a);
@@ -80,7 +75,7 @@ TEST(DropFiles, PicturesOnAContentPageAreOneStepAndElsewhereNothing) {
     EXPECT_EQ(f.editor.state().SelectedIndex, 2);
     EXPECT_EQ(f.editor.undoStack().undoName(), QStringLiteral("Drop 2 pictures"));
     f.editor.undo();
-    EXPECT_EQ(Bytes(*f.doc), clean);
+    EXPECT_EQ(SavedBytes(*f.doc), clean);
     EXPECT_FALSE(f.doc->Dirty);
 }
 
@@ -142,7 +137,7 @@ TEST(Recovery, AutosaveKeepsOnlyUnsavedWork) {
     EXPECT_FALSE(QFile::exists(file));
     doc->Dirty = true;
     EXPECT_TRUE(Autosave(*doc, box.ctx));
-    EXPECT_EQ(ReadAll(file), Bytes(*doc));
+    EXPECT_EQ(ReadAll(file), SavedBytes(*doc));
     // Our own run is alive: nothing to offer.
     EXPECT_TRUE(LeftBehindRecovery(box.ctx).isEmpty());
     doc->Dirty = false;
@@ -165,7 +160,7 @@ TEST(Recovery, WorkOfARunThatIsGoneIsOfferedAndRemovedWhateverTheAnswer) {
         lost->ScriptPath = f.box.path(QStringLiteral("cv.qds"));
         lost->Dirty = true;
         LeaveRecovery(f.box, *lost, gonePid);
-        const QByteArray fresh = Bytes(*f.doc);
+        const QByteArray fresh = SavedBytes(*f.doc);
 
         f.prompter.expectAsk(QStringLiteral("Recover Work"),
                              QStringLiteral("Vitara Zentor did not end normally last time. Do you "
@@ -174,7 +169,7 @@ TEST(Recovery, WorkOfARunThatIsGoneIsOfferedAndRemovedWhateverTheAnswer) {
         f.editor.offerRecovery();
         EXPECT_PROMPTS_DONE(f.prompter);
         if (answer == Answer::Yes) {
-            EXPECT_EQ(Bytes(*f.doc), Bytes(*lost));
+            EXPECT_EQ(SavedBytes(*f.doc), SavedBytes(*lost));
             EXPECT_EQ(f.doc->ScriptPath, lost->ScriptPath);
             EXPECT_TRUE(f.doc->Dirty);
             // Restored work is unsaved even after an edit is taken back.
@@ -183,7 +178,7 @@ TEST(Recovery, WorkOfARunThatIsGoneIsOfferedAndRemovedWhateverTheAnswer) {
             f.editor.undo();
             EXPECT_TRUE(f.doc->Dirty);
         } else {
-            EXPECT_EQ(Bytes(*f.doc), fresh);
+            EXPECT_EQ(SavedBytes(*f.doc), fresh);
             EXPECT_FALSE(f.doc->Dirty);
         }
         EXPECT_TRUE(QDir(f.box.ctx.WorkFolder).entryList(QDir::Files).isEmpty());

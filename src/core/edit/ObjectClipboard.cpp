@@ -35,6 +35,18 @@ void PlacePasted(E& e, const Table& table, int tab, int frameW, int frameH) {
     e.Left = r.Left, e.Top = r.Top, e.Width = r.Width, e.Height = r.Height;
 }
 
+// Decodes the record into `slot` of its table, placed and named as a new object of `tab`.
+template <class Table, class E = typename Table::value_type>
+void Put(Table& table, int slot, QByteArrayView record, void (*decode)(QByteArrayView, E&), int tab,
+         const ScriptHeader& header, const char* namePrefix) {
+    E e;
+    decode(record, e);
+    PlacePasted(e, table, tab, header.FrameWidth, header.FrameHeight);
+    e.TabNo = tab;
+    e.Name = QString::fromLatin1(namePrefix) + QString::number(slot);
+    table[size_t(slot)] = e;
+}
+
 } // namespace
 
 QByteArray CopyObject(const Document& doc, int kind, int slot) {
@@ -69,22 +81,10 @@ PasteResult PasteObject(Document& doc, QByteArrayView clip, int currentTab) {
         result.outcome = PasteResult::Outcome::TableFull;
         return result;
     }
-    const int w = doc.Header.FrameWidth, h = doc.Header.FrameHeight;
-    if (kind == KindImage) {
-        ImageElement e;
-        DecodeImage(record, e);
-        PlacePasted(e, doc.Images, currentTab, w, h);
-        e.TabNo = currentTab;
-        e.Name = QStringLiteral("image ") + QString::number(slot);
-        doc.Images[slot] = e;
-    } else {
-        TextElement e;
-        DecodeText(record, e);
-        PlacePasted(e, doc.Texts, currentTab, w, h);
-        e.TabNo = currentTab;
-        e.Name = QStringLiteral("text ") + QString::number(slot);
-        doc.Texts[slot] = e;
-    }
+    if (kind == KindImage)
+        Put(doc.Images, slot, record, DecodeImage, currentTab, doc.Header, "image ");
+    else
+        Put(doc.Texts, slot, record, DecodeText, currentTab, doc.Header, "text ");
     result.outcome = PasteResult::Outcome::Pasted;
     result.slot = slot;
     return result;
