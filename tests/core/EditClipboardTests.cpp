@@ -131,20 +131,14 @@ TEST(EditClipboard, CutPasteAndDuplicateAreOneNamedStepEachThatUndoesToTheSameBy
     }
 }
 
-TEST(EditClipboard, ThePasteIsSelectedAndAFullTableSaysSoUnderTheCommandsName) {
+TEST(EditClipboard, ThePasteIsSelectedAndAFullTableSaysSo) {
     ClipFixture f;
-    const QByteArray clip = f.editor.copySelection();
-    ASSERT_TRUE(f.editor.paste(clip));
-    EXPECT_EQ(f.editor.state().SelectedKind, KindImage);
+    ASSERT_TRUE(f.editor.duplicate());
     EXPECT_EQ(f.editor.state().SelectedIndex, 2);
-    EXPECT_TRUE(f.view.frameVisible);
-
     for (int i = 3; i <= MaxImages; ++i)
         PlaceImage(*f.doc, i, 2);
-    f.prompter.expectWarning(QStringLiteral("Duplicate"),
-                             QStringLiteral("A résumé holds at most 32 images; delete one to make "
-                                            "room."));
-    EXPECT_FALSE(f.editor.duplicate());
+    f.prompter.expectWarning(QStringLiteral("Paste"), TableFullText(KindImage));
+    EXPECT_FALSE(f.editor.paste(f.editor.copySelection()));
     EXPECT_PROMPTS_DONE(f.prompter);
 }
 

@@ -87,10 +87,6 @@ TEST(DropFiles, ADroppedProjectOpensAfterTheChangedDocumentQuestion) {
     ASSERT_TRUE(SaveScript(*other, path));
     f.doc->Dirty = true;
     f.prompter.expectYesNoCancel(QStringLiteral("Open File"),
-                                 QStringLiteral("Do you want to save the work?"), Answer::Cancel);
-    f.editor.dropFiles({path}, std::nullopt);
-    EXPECT_TRUE(f.doc->Dirty);
-    f.prompter.expectYesNoCancel(QStringLiteral("Open File"),
                                  QStringLiteral("Do you want to save the work?"), Answer::No);
     f.editor.dropFiles({path}, std::nullopt);
     EXPECT_EQ(f.doc->Profile.FirstName.trimNull(), QStringLiteral("Ada"));
@@ -99,7 +95,7 @@ TEST(DropFiles, ADroppedProjectOpensAfterTheChangedDocumentQuestion) {
     EXPECT_PROMPTS_DONE(f.prompter);
 }
 
-TEST(RecentFiles, TheLatestComesFirstOnceAndEightAreKept) {
+TEST(RecentFiles, TheLatestComesFirstOnceEightAreKeptAndAMissingOneIsTold) {
     QStringList list;
     for (int i = 1; i <= 9; ++i)
         list = WithRecentFile(list, QStringLiteral("/p/%1.qds").arg(i));
@@ -110,13 +106,11 @@ TEST(RecentFiles, TheLatestComesFirstOnceAndEightAreKept) {
     EXPECT_EQ(list.mid(0, 3), QStringList({"/p/5.qds", "/p/9.qds", "/p/8.qds"}));
     EXPECT_EQ(list.count(QStringLiteral("/p/5.qds")), 1);
     EXPECT_TRUE(WithRecentFile({}, QStringLiteral("rel.qds")).first().startsWith('/'));
-}
 
-TEST(RecentFiles, AMissingFileIsToldAndReportedForRemoval) {
     EditorFixture f;
     const QString gone = f.box.path(QStringLiteral("gone.qds"));
     f.prompter.expectWarning(QStringLiteral("Open File"), MissingRecentText(gone));
-    EXPECT_FALSE(f.editor.openRecent(gone));
+    EXPECT_FALSE(f.editor.openRecent(gone)); // the menu drops it
     EXPECT_PROMPTS_DONE(f.prompter);
 }
 
@@ -129,22 +123,16 @@ void LeaveRecovery(const Sandbox& box, const Document& doc, qint64 pid) {
         QFile::rename(ours.chopped(4) + ".path", RecoveryFile(box.ctx, pid).chopped(4) + ".path"));
 }
 
-TEST(Recovery, AutosaveKeepsOnlyUnsavedWork) {
+TEST(Recovery, AutosaveKeepsOnlyUnsavedWorkAndAnExitRemovesIt) {
     Sandbox box;
     auto doc = box.newDocument();
     const QString file = RecoveryFile(box.ctx, getpid());
-    EXPECT_FALSE(Autosave(*doc, box.ctx));
-    EXPECT_FALSE(QFile::exists(file));
-    doc->Dirty = true;
-    EXPECT_TRUE(Autosave(*doc, box.ctx));
-    EXPECT_EQ(ReadAll(file), SavedBytes(*doc));
-    // Our own run is alive: nothing to offer.
-    EXPECT_TRUE(LeftBehindRecovery(box.ctx).isEmpty());
-    doc->Dirty = false;
-    Autosave(*doc, box.ctx);
-    EXPECT_FALSE(QFile::exists(file));
-    doc->Dirty = true;
-    Autosave(*doc, box.ctx);
+    for (bool dirty : {true, false, true}) {
+        doc->Dirty = dirty;
+        EXPECT_EQ(Autosave(*doc, box.ctx), dirty);
+        EXPECT_EQ(ReadAll(file), dirty ? SavedBytes(*doc) : QByteArray());
+    }
+    EXPECT_TRUE(LeftBehindRecovery(box.ctx).isEmpty()); // our own run is alive
     RemoveRecovery(box.ctx);
     EXPECT_TRUE(QDir(box.ctx.WorkFolder).entryList(QDir::Files).isEmpty());
 }
