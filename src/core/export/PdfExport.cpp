@@ -42,7 +42,8 @@ QByteArray PagePdf(QSize frame, const std::function<void(QPainter&)>& paint) {
 
 } // namespace
 
-QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx) {
+QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx,
+                     const Progress& progress) {
     const QSize frame = FrameSize(doc);
     if (frame.isEmpty())
         return QByteArray();
@@ -61,8 +62,11 @@ QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessCon
     const size_t count = jobs.size();
     PictureJobs run(std::move(jobs), std::max(1, QThread::idealThreadCount()));
     std::vector<QByteArray> parts;
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
+        if (!GoOn(progress, int(i) + 1, int(count)))
+            return QByteArray();
         parts.push_back(run.take(i).value_or(QByteArray()));
+    }
     const QString person = PersonName(doc);
     return JoinPdfs(parts, {person, person, QStringLiteral("Vitara Zentor"),
                             QStringLiteral("Qt ") + QLatin1String(qVersion())});
