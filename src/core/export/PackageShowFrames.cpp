@@ -70,15 +70,14 @@ int PackageShowFrames::stillUntil(int ms) const {
     return next <= ms ? ms : int(std::min<int64_t>(next - 1, last));
 }
 
-std::unique_ptr<ShowFrames> DocumentShowFrames(const Document& doc, const ProcessContext& ctx,
-                                               const ResImages& res, QStringList& warnings,
-                                               QString& error) {
+bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
+                     PackageContents& package, QStringList& warnings, QString& error) {
     ctx.ensureWorkFolder();
     QTemporaryDir dir(ctx.WorkFolder + QStringLiteral("show-XXXXXX"));
     if (!dir.isValid()) {
         error = QStringLiteral("cannot make a folder in %1 for the résumé's package")
                     .arg(ctx.WorkFolder);
-        return nullptr;
+        return false;
     }
     const QString path = dir.filePath(QStringLiteral("show.qdv"));
     QStringList said;
@@ -89,17 +88,29 @@ std::unique_ptr<ShowFrames> DocumentShowFrames(const Document& doc, const Proces
     Document copy = doc; // generating tidies the document it writes
     const bool written =
         generator.writePackage(copy, path, false) == ResumeGenerator::Outcome::Written;
-    PackageContents package;
     QString readError;
     if (!written || !ReadPackage(path, PackageForm::Qdv, package, readError) || !package.Complete) {
         error =
             said.isEmpty() ? QStringLiteral("cannot make the résumé's package") : said.join(' ');
-        return nullptr;
+        return false;
     }
     warnings += said;
-    QByteArray background;
-    ReadFileBytes(ctx.defaultBackPicture(), background);
-    return std::make_unique<PackageShowFrames>(package, res, background);
+    return true;
+}
+
+QByteArray DefaultHomeBackground(const ProcessContext& ctx) {
+    QByteArray bytes;
+    ReadFileBytes(ctx.defaultBackPicture(), bytes);
+    return bytes;
+}
+
+std::unique_ptr<ShowFrames> DocumentShowFrames(const Document& doc, const ProcessContext& ctx,
+                                               const ResImages& res, QStringList& warnings,
+                                               QString& error) {
+    PackageContents package;
+    if (!DocumentPackage(doc, ctx, res, package, warnings, error))
+        return nullptr;
+    return std::make_unique<PackageShowFrames>(package, res, DefaultHomeBackground(ctx));
 }
 
 } // namespace zentor

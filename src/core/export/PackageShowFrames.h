@@ -35,9 +35,16 @@ private:
     show::ShowModel model_;
 };
 
-// The show of a document as its recipient will see it: its package generated into the work
-// folder, read back and shown as above. Null with `error` when no package could be made;
-// what generating warned about is added to `warnings`.
+// The package a document generates, made in the work folder and read back: what the
+// recipient's player will show. False with `error` when none could be made; what
+// generating warned about is added to `warnings`.
+bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
+                     PackageContents& package, QStringList& warnings, QString& error);
+
+// The built-in background a package without its own shows on its home page.
+QByteArray DefaultHomeBackground(const ProcessContext& ctx);
+
+// The show of a document as its recipient will see it: its package, shown as above.
 std::unique_ptr<ShowFrames> DocumentShowFrames(const Document& doc, const ProcessContext& ctx,
                                                const ResImages& res, QStringList& warnings,
                                                QString& error);

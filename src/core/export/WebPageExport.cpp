@@ -1,22 +1,22 @@
 #include "export/WebPageExport.h"
 
 #include "export/Contacts.h"
+#include "export/PackageShowFrames.h"
 #include "export/WebPageTemplate.h"
 #include "export/WebShow.h"
-#include "generate/PictureJobs.h"
+#include "generate/PackageReader.h"
 #include "io/FileUtil.h"
+#include "model/CodePage.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
 #include "render/ImageSave.h"
 #include "render/PageCompositor.h"
-#include "render/PictureCache.h"
 #include "render/ResImages.h"
 #include "render/TextLayout.h"
-#include "render/WorkspacePainter.h"
+#include "show/ShowPictures.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QThread>
 
 #include <cmath>
 
@@ -133,28 +133,33 @@ QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg, Dat
                        {"texts", texts}};
 }
 
-QJsonObject HomeLayer(const Document& doc, const QByteArray& jpeg, DataUris& uris) {
-    const QSize frame = FrameSize(doc);
+QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, DataUris& uris) {
+    const QSize frame = pictures.frame();
+    // The contacts are painted on the home picture as the players paint them; over them
+    // lie their words as text and their links, where the players take clicks.
     QJsonArray lines;
-    for (const ContactLine& line : ContactLines(doc))
-        lines.append(QJsonObject{{"text", line.text}, {"href", line.href}});
+    for (const show::HomeLine& line : pictures.contacts().Lines) {
+        QJsonObject o = Box(line.Rect.Left, line.Rect.Top, line.Rect.Right - line.Rect.Left,
+                            line.Rect.Bottom - line.Rect.Top);
+        o.insert("text", CodePage::active().decode(
+                             QByteArrayView(line.Text.data(), qsizetype(line.Text.size()))));
+        o.insert("href", QString::fromStdString(line.Link));
+        lines.append(o);
+    }
 
-    // The caption under the centre picture, as the home picture draws it, and the contacts
-    // below it, between the ring's lower icons.
+    // The caption under the centre picture, as the home picture draws it.
     const int captionTop = int(std::lround(frame.height() / 2.0)) + 80;
     QJsonArray texts;
     const QJsonObject caption = TextLayer(PersonName(doc), 0, captionTop, frame.width(), 24,
                                           QStringLiteral("Arial"), 12, 0, 1, 0);
     if (!caption.isEmpty())
         texts.append(caption);
-    const int contactsWidth = 300;
+    const QImage home = pictures.picture(show::HomePicture);
     return QJsonObject{
         {"name", PersonName(doc)},
-        {"picture", uris.add("image/jpeg", jpeg)},
+        {"picture", uris.add("image/jpeg", EncodeJpeg(home, PageQuality))},
         {"texts", texts},
-        {"contacts", QJsonObject{{"box", Box((frame.width() - contactsWidth) / 2, captionTop + 28,
-                                             contactsWidth, 19 * int(lines.size()))},
-                                 {"lines", lines}}}};
+        {"contacts", QJsonObject{{"px", pictures.contacts().FontPixelSize}, {"lines", lines}}}};
 }
 
 } // namespace
@@ -163,37 +168,30 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
                          const Progress& progress) {
     if (FrameSize(doc).isEmpty())
         return QByteArray();
-    // The eight pages and the home page are drawn side by side, as generating draws them.
-    PictureCache cache;
-    std::vector<PictureJobs::Job> jobs;
-    for (int page = 1; page <= SlideShowTab; ++page)
-        jobs.push_back(
-            [&, page] { return PictureJobs::Result(RenderPageJpeg(doc, page, res, &cache)); });
-    jobs.push_back([&] {
-        Document copy = doc; // the painter tidies what it draws; the export only reads
-        return PictureJobs::Result(
-            EncodeJpeg(PaintWorkspace(copy, ProfileTab, 0, res, ctx, &cache), PageQuality));
-    });
-    PictureJobs pictures(std::move(jobs), std::max(1, QThread::idealThreadCount()));
+    // The pages are the package's own, the home page the players' own.
+    PackageContents package;
+    QStringList warnings;
+    QString error;
+    if (!DocumentPackage(doc, ctx, res, package, warnings, error))
+        return QByteArray();
+    const ShowPictures pictures(package, res, DefaultHomeBackground(ctx));
 
-    QJsonObject show = WebShowNumbers(doc);
+    QJsonObject show = WebShowNumbers(doc, pictures.showOrder());
     show.insert("title", PersonName(doc));
     DataUris uris;
     QJsonObject pages;
     for (int page = 1; page <= SlideShowTab; ++page) {
         if (!GoOn(progress, page, SlideShowTab + 1))
             return QByteArray();
-        pages.insert(
-            QString::number(page),
-            PageLayer(doc, page, pictures.take(size_t(page - 1)).value_or(QByteArray()), uris));
+        pages.insert(QString::number(page),
+                     PageLayer(doc, page, package.blob(show::PageEntryOfTab(page)), uris));
     }
     if (!GoOn(progress, SlideShowTab + 1, SlideShowTab + 1))
         return QByteArray();
-    show.insert("home", HomeLayer(doc, pictures.take(SlideShowTab).value_or(QByteArray()), uris));
+    show.insert("home", HomeLayer(doc, pictures, uris));
     show.insert("pages", pages);
-    QByteArray music;
-    const QString musicPath = ResolvePath(doc.ScriptPath, doc.Header.BackMusic.trimNull());
-    if (!doc.Header.BackMusic.trimNull().isEmpty() && ReadFileBytes(musicPath, music) > 0)
+    const QByteArray music = package.blob(show::Package::MusicEntry);
+    if (!music.isEmpty())
         show.insert("music", uris.add("audio/mpeg", music));
 
     // "</script" or "<!--" in a text would change how the page reads its script element; a
