@@ -77,18 +77,52 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
         }
     }
 
+    // Pictures drawn on the pages: a missing one leaves its place empty, silently in the
+    // package, so it is said here.
+    for (int tab = 1; tab <= 7; ++tab) {
+        const QString name = doc->Tabs[size_t(tab)].Name.text().trimmed();
+        auto check = [&](const QString& field, const QString& what) {
+            if (field.isEmpty())
+                return;
+            const QString path = ResolvePath(doc->ScriptPath, field);
+            if (ReadPictureSize(path).isEmpty()) {
+                Warn(QStringLiteral("cannot read the %1 on page %2: %3; the page is drawn without "
+                                    "it")
+                         .arg(what, name, path));
+                ++prompter.warnings;
+            }
+        };
+        check(doc->Tabs[size_t(tab)].Picture.FileName.trimNull(), QStringLiteral("tab picture"));
+        for (const ImageElement& img : doc->Images)
+            if (&img != &doc->Images[0] && img.TabNo == tab)
+                check(img.FileName.trimNull(),
+                      QStringLiteral("picture of ") + img.Name.text().trimmed());
+    }
+
     const ResImages res = ResImages::load();
     RenderedPictures rendered(ctx, res);
     ResumeGenerator gen(ctx, prompter, rendered);
     gen.setParallel(true);
     if (selfRun)
         gen.setPlayer(PlayerStub());
-    if (gen.writePackage(*doc, out, selfRun) != ResumeGenerator::Outcome::Written)
+    // Strict runs write beside the target first, so a refusal leaves an older file untouched.
+    const QString target = strict ? out + QStringLiteral(".part") : out;
+    if (gen.writePackage(*doc, target, selfRun) != ResumeGenerator::Outcome::Written) {
+        if (strict)
+            QFile::remove(target);
         return ExitError;
+    }
     if (strict && prompter.warnings > 0) {
-        QFile::remove(out);
+        QFile::remove(target);
         return Fail(QStringLiteral("%1 source(s) could not be read; nothing written (--strict)")
                         .arg(prompter.warnings));
+    }
+    if (strict) {
+        QFile::remove(out);
+        if (!QFile::rename(target, out)) {
+            QFile::remove(target);
+            return Fail(QStringLiteral("cannot write %1").arg(out));
+        }
     }
     return ExitOk;
 }

@@ -1,6 +1,7 @@
 #include "cli/Cli.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -31,12 +32,13 @@ void PrintJson(const QJsonObject& obj) {
 
 namespace {
 
-int usage() {
+// Asked for (--help): on stdout, success. Otherwise a usage error on stderr.
+int usage(bool asked) {
     QString text = QStringLiteral("usage: zentor-cli COMMAND ...\n");
     for (const Command& c : Commands())
         text += QStringLiteral("  zentor-cli %1\n").arg(c.usage);
-    std::fputs(qPrintable(text), stderr);
-    return ExitUsage;
+    std::fputs(qPrintable(text), asked ? stdout : stderr);
+    return asked ? 0 : ExitUsage;
 }
 
 bool parse(const Command& cmd, const QStringList& words, Args& args, QString& error) {
@@ -70,9 +72,11 @@ int main(int argc, char** argv) {
     zentor::PrepareRuntimeDir();
     QGuiApplication app(argc, argv);
     QStringList words = app.arguments().mid(1);
-    if (words.isEmpty() || words.first() == QLatin1String("help") ||
-        words.first() == QLatin1String("--help"))
-        return usage();
+    if (words.isEmpty())
+        return usage(false);
+    if (words.first() == QLatin1String("help") || words.first() == QLatin1String("--help") ||
+        words.first() == QLatin1String("-h"))
+        return usage(true);
     const QString name = words.takeFirst();
     for (const Command& cmd : Commands()) {
         if (cmd.name != name)
@@ -81,12 +85,15 @@ int main(int argc, char** argv) {
         QString error;
         if (!parse(cmd, words, args, error))
             return Fail(error + QStringLiteral("\nusage: zentor-cli ") + cmd.usage, ExitUsage);
-        // A private work folder, so that several runs at once never share a temporary picture.
-        QTemporaryDir temp;
+        // A private work folder, so that several runs at once never share a temporary picture;
+        // those of earlier runs that were killed midway are removed first.
+        const QString program = QStringLiteral("zentor-cli");
+        zentor::RemoveStaleWorkFolders(QDir::tempPath(), program);
+        QTemporaryDir temp(zentor::PrivateWorkTemplate(QDir::tempPath(), program));
         const auto ctx =
             zentor::ProcessContext::create(QCoreApplication::applicationDirPath(), temp.path());
         return cmd.run(args, ctx);
     }
     Fail(QStringLiteral("unknown command \"%1\"").arg(name), ExitUsage);
-    return usage();
+    return usage(false);
 }

@@ -4,6 +4,7 @@
 #include "editor/PropertyPanes.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
+#include "export/ExportCommand.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
 #include "model/DefaultDocument.h"
@@ -26,6 +27,7 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTimer>
 #include <QToolBar>
 
 namespace zentor {
@@ -83,6 +85,10 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
 #endif
         generator_->GenerateResume(doc_, selfRun);
     });
+    editor_.setExporter([this](int command) {
+        RunExport(command == CmdExportPdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_,
+                  res_, ctx_);
+    });
     wireWorkspace();
     // Room for an 800 x 600 page beside the tool pane, within the screen.
     QSize size(1280, 860);
@@ -90,6 +96,14 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         size = size.boundedTo(screen->availableSize());
     resize(size);
     updateTitle();
+    // Edits set the document's flag from many places (panes, dialogs, typing in place); the
+    // title's modified mark follows it a few times a second.
+    auto* titleTimer = new QTimer(this);
+    connect(titleTimer, &QTimer::timeout, this, [this] {
+        if (isWindowModified() != doc_.Dirty)
+            updateTitle();
+    });
+    titleTimer->start(200);
 }
 
 FrmMain::~FrmMain() {
@@ -128,6 +142,8 @@ void FrmMain::buildMenus() {
           {3, nullptr, {}},
           {4, "&Generate QDV File", cmd(CmdGenerateQdv)},
           {5, "Generate &Selfrun Resume File", cmd(CmdGenerateSelfrun)},
+          {11, "Export &PDF...", cmd(CmdExportPdf)},
+          {12, "Export &Web Page...", cmd(CmdExportWebPage)},
           {6, nullptr, {}},
           {7, "&Save", cmd(CmdSave)},
           {8, "Save &as...", cmd(CmdSaveAs)},
@@ -170,7 +186,8 @@ void FrmMain::buildMenus() {
     key("SubFile1", {QKeySequence::New});
     key("SubFile2", {QKeySequence::Open});
     key("SubFile7", {QKeySequence::Save});
-    key("SubFile8", {QKeySequence::SaveAs});
+    // Bound explicitly: several desktops' key themes have no Save As key.
+    key("SubFile8", {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)});
     key("SubFile10", {QKeySequence::Quit});
     key("SubEdit3", {QKeySequence::Delete});
     key("SubEdit5", {QKeySequence(Qt::CTRL | Qt::Key_PageUp)});
@@ -465,7 +482,9 @@ void FrmMain::updateScrollBars(bool middleVertically) {
 void FrmMain::updateTitle() {
     const QString name = doc_.ScriptPath.isEmpty() ? QStringLiteral("Untitled")
                                                    : QFileInfo(doc_.ScriptPath).fileName();
-    setWindowTitle(name + QStringLiteral(" - Vitara Zentor"));
+    // "[*]" is where the platform puts its modified mark ("cv.qds*" here) while Dirty is set.
+    setWindowTitle(name + QStringLiteral("[*] - Vitara Zentor"));
+    setWindowModified(doc_.Dirty);
 }
 
 } // namespace zentor

@@ -92,6 +92,12 @@ TEST(Cli, ErrorsAndDamagedFiles) {
         EXPECT_EQ(RunCli(c.args, &out, &err), c.status);
         EXPECT_TRUE(err.contains(c.stderrHas)) << err.toStdString();
     }
+    // Usage asked for is the answer, on stdout.
+    QByteArray help, helpErr;
+    EXPECT_EQ(RunCli({"--help"}, &help, &helpErr), 0);
+    EXPECT_TRUE(help.startsWith("usage: zentor-cli")) << help.toStdString();
+    EXPECT_TRUE(helpErr.isEmpty());
+
     QByteArray out;
     ASSERT_EQ(RunCli({"info", box.path("cut.qds")}, &out), 0);
     EXPECT_EQ(field(parse(out), "Profile", "FirstName").toString(), "Quorvix");

@@ -51,42 +51,68 @@ TEST(EditCommands, StartUpOpensTheCommandLineProject) {
         EditorFixture f(false);
         f.box.ctx.CommandLine = c.commandLine;
         f.editor.formLoad();
+        // A project that does not exist yet is where the first Save writes, without a dialog.
+        EXPECT_EQ(f.doc->ScriptPath, c.commandLine);
         EXPECT_EQ(f.doc->Profile.FirstName.text(), c.firstName);
         EXPECT_EQ(f.view.workspace, c.workspace);
         EXPECT_FALSE(f.doc->Dirty);
         EXPECT_PROMPTS_DONE(f.prompter);
     }
+    // Nothing was created at start-up; Save writes the new project where it was named.
+    EditorFixture f(false);
+    f.box.ctx.CommandLine = other.path("missing.qds");
+    f.editor.formLoad();
+    EXPECT_FALSE(QFile::exists(other.path("missing.qds")));
+    f.editor.CommonModth(CmdSave);
+    EXPECT_TRUE(QFile::exists(other.path("missing.qds")));
+    EXPECT_PROMPTS_DONE(f.prompter);
 }
 
-TEST(EditCommands, NewAndOpenAskOnlyForAChangedDocument) {
+TEST(EditCommands, NewAndOpenAskOnlyForAChangedDocumentAndNeverDropUnsavedWork) {
+    enum Save { NotAsked, Cancelled, Refused, Written };
     const struct {
         int command;
         bool dirty;
         Answer answer;
-        bool reset; // the document was replaced by the default one
+        Save save;
+        bool goesOn; // the document was replaced (New) or the open dialog shown (Open)
     } cases[] = {
-        {CmdNew, false, Answer::No, true},      {CmdNew, true, Answer::Cancel, false},
-        {CmdNew, true, Answer::No, true},       {CmdNew, true, Answer::Yes, true},
-        {CmdOpen, true, Answer::Cancel, false}, {CmdOpen, true, Answer::Yes, false},
-        {CmdOpen, false, Answer::No, false},
+        {CmdNew, false, Answer::No, NotAsked, true},
+        {CmdNew, true, Answer::Cancel, NotAsked, false},
+        {CmdNew, true, Answer::No, NotAsked, true},
+        {CmdNew, true, Answer::Yes, Cancelled, false},
+        {CmdNew, true, Answer::Yes, Refused, false},
+        {CmdNew, true, Answer::Yes, Written, true},
+        {CmdOpen, true, Answer::Cancel, NotAsked, false},
+        {CmdOpen, true, Answer::Yes, Cancelled, false},
+        {CmdOpen, true, Answer::Yes, Written, true},
+        {CmdOpen, false, Answer::No, NotAsked, true},
     };
     for (const auto& c : cases) {
         EditorFixture f;
         f.doc->Profile.FirstName = "Edited";
         f.doc->Dirty = c.dirty;
         const QString title = c.command == CmdNew ? "New File" : "Open File";
+        const QString bad = f.box.path("no/such/folder/cv.qds");
+        const QString good = f.box.path("cv.qds");
         if (c.dirty)
             f.prompter.expectYesNoCancel(title, "Do you want to save the work?", c.answer);
-        if (c.dirty && c.answer == Answer::Yes) // a never-saved document: the dialog is cancelled
-            f.prompter.expectFile(true, "Save QDV Script File", Filter, QString());
-        if (c.command == CmdOpen && c.answer != Answer::Cancel)
+        if (c.save != NotAsked) // a never-saved document: the save dialog comes first
+            f.prompter.expectFile(true, "Save QDV Script File", Filter,
+                                  c.save == Cancelled ? QString()
+                                  : c.save == Refused ? bad
+                                                      : good);
+        if (c.save == Refused)
+            f.prompter.expectWarning("Save QDV Script File", "Can't save file : " + bad);
+        if (c.command == CmdOpen && c.goesOn)
             f.prompter.expectFile(false, "Open QDV Script File", Filter, QString());
-        f.view.status.clear();
         f.editor.CommonModth(c.command);
-        const bool cancelled = c.answer == Answer::Cancel;
-        EXPECT_EQ(f.doc->Profile.FirstName.text(), c.reset ? "Quorvix" : "Edited");
-        EXPECT_EQ(f.doc->Dirty, cancelled);
-        EXPECT_EQ(f.view.status, cancelled ? "" : "Ready");
+        const bool replaced = c.goesOn && c.command == CmdNew;
+        const bool kept = !c.goesOn || c.command == CmdOpen;
+        EXPECT_EQ(f.doc->Profile.FirstName.text(), replaced ? "Quorvix" : "Edited");
+        EXPECT_EQ(f.doc->Dirty, c.goesOn ? false : c.dirty);
+        EXPECT_EQ(f.doc->ScriptPath,
+                  c.save == Written ? (kept && !replaced ? good : QString()) : QString());
         EXPECT_PROMPTS_DONE(f.prompter);
     }
 }

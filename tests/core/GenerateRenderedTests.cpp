@@ -102,6 +102,8 @@ TEST_F(GenerateRenderedTest, CliGenerateWarnsForEachUnreadableSource) {
     doc->Header.BackMusic = QStringLiteral("gone.mp3");
     doc->Profile.UserIcon = QStringLiteral("gone.png");
     doc->Tabs[4].Icon = QStringLiteral("gone.ico");
+    doc->Tabs[7].Picture.FileName = QStringLiteral("gone-tab.jpg");
+    PlaceImage(*doc, 32, 3, QRect(0, 0, 50, 50), QStringLiteral("gone-object.png"));
     const QString project = box.path(QStringLiteral("broken.qds"));
     ASSERT_TRUE(SaveScript(*doc, project));
     const struct {
@@ -125,11 +127,13 @@ TEST_F(GenerateRenderedTest, CliGenerateWarnsForEachUnreadableSource) {
                   c.status)
             << stdErr.toStdString();
         const QList<QByteArray> lines = stdErr.trimmed().split('\n');
-        EXPECT_EQ(lines.count(), c.format ? 3 : 4) << stdErr.toStdString();
+        EXPECT_EQ(lines.count(), c.format ? 5 : 6) << stdErr.toStdString();
         EXPECT_TRUE(stdErr.contains("gone.mp3") && stdErr.contains("gone.png") &&
-                    stdErr.contains("gone.ico"))
+                    stdErr.contains("gone.ico") && stdErr.contains("gone-tab.jpg") &&
+                    stdErr.contains("gone-object.png"))
             << stdErr.toStdString();
         EXPECT_EQ(QFile::exists(out), c.format != nullptr);
+        EXPECT_FALSE(QFile::exists(out + ".part"));
         if (!c.format)
             continue;
         const PackageContents p = ParsePackage(ReadAll(out), PackageForm::Detect);

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 
 using namespace zentor;
@@ -126,6 +127,29 @@ TEST(ProcessContext, WorkFolderComesBackAndGoesAway) {
     EXPECT_FALSE(QDir(ctx.WorkFolder).exists());
     EXPECT_TRUE(ctx.ensureWorkFolder());
     EXPECT_TRUE(QDir(ctx.WorkFolder).exists());
+}
+
+TEST(ProcessContext, OnlyWorkFoldersOfGoneProcessesAreRemoved) {
+    QTemporaryDir temp;
+    const QString own = QString::number(QCoreApplication::applicationPid());
+    struct Row {
+        const char* name;
+        bool kept;
+    };
+    const Row rows[] = {
+        {"zentor-cli-999999999-a1b2c3", false}, // no such process: killed midway
+        {"zentor-cli-%1-a1b2c3", true},         // this very process
+        {"zentor-cli-abc-a1b2c3", true},        // not a pid: not ours
+        {"zentor-cli-999999999", true},         // not our naming
+        {"other-999999999-a1b2c3", true},       // another program's
+    };
+    for (const Row& r : rows)
+        ASSERT_TRUE(QDir(temp.path()).mkpath(QString::fromLatin1(r.name).arg(own) + "/inner"));
+    EXPECT_EQ(RemoveStaleWorkFolders(temp.path(), QStringLiteral("zentor-cli")), 1);
+    for (const Row& r : rows)
+        EXPECT_EQ(QDir(temp.path()).exists(QString::fromLatin1(r.name).arg(own)), r.kept) << r.name;
+    EXPECT_TRUE(PrivateWorkTemplate(temp.path(), QStringLiteral("zentor-cli"))
+                    .endsWith("/zentor-cli-" + own + "-XXXXXX"));
 }
 
 TEST(FileUtil, HexColorTrimNullAndPaths) {

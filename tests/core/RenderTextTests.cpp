@@ -1,6 +1,7 @@
 #include "TestSupport.h"
 
 #include "render/TextDraw.h"
+#include "render/TextLayout.h"
 
 #include <QImage>
 #include <QPainter>
@@ -25,10 +26,11 @@ struct Text {
     int shadow = 0;
     int hint = 4;
     int offset = 1;
+    QSize canvas{240, 120};
 };
 
 QImage Draw(const Text& t, QRgb background = Grey, int dotsPerMeter = 0) {
-    QImage img(240, 120, QImage::Format_ARGB32_Premultiplied);
+    QImage img(t.canvas, QImage::Format_ARGB32_Premultiplied);
     img.fill(background);
     if (dotsPerMeter) {
         img.setDotsPerMeterX(dotsPerMeter);
@@ -209,4 +211,102 @@ TEST(RenderText, UnderlineSpansTheText) {
     EXPECT_GT(underlined.bottom(), plain.bottom());
     EXPECT_NEAR(underlined.left(), plain.left(), 3);
     EXPECT_NEAR(underlined.right(), plain.right(), 3);
+}
+
+// Pixels per em at a size in points.
+double Em(int points) {
+    return points * 96.0 / 72.0;
+}
+
+TEST(RenderText, InkWidthScalesWithTheSize) {
+    // Forty "n" span 39 advances of 1139/2048 em plus one n's ink of 869/2048 em in Arial's
+    // metrics: the ink grows with the exact em, hinted or not, never with a rounded one.
+    Text t;
+    t.text = QString(40, QLatin1Char('n'));
+    t.box = QRectF(4, 4, 0, 0);
+    t.canvas = QSize(700, 40);
+    for (const int hint : {1, 4})
+        for (int size = 8; size <= 22; ++size) {
+            t.size = size;
+            t.hint = hint;
+            const double want = (39 * 1139 + 869) / 2048.0 * Em(size);
+            EXPECT_NEAR(Ink(Draw(t)).width(), want, 2.0) << size << " pt, hint " << hint;
+        }
+}
+
+TEST(RenderText, LinePitchIsTheFontsLineSpacing) {
+    // Eleven lines, 2355/2048 em apart; a drawn H on the first and the last line.
+    Text t;
+    t.font = QStringLiteral("Arial");
+    t.box = QRectF(4, 4, 200, 250);
+    t.canvas = QSize(240, 260);
+    for (const int size : {8, 11, 12}) {
+        const double pitch = Em(size) * 2355 / 2048;
+        const TextBoxLayout box = LayoutTextBox(QStringLiteral("a\nb\nc\nd\ne\nf\ng\nh\ni\nj\nk"),
+                                                4, 4, 200, 250, t.font, size, 0, 0, 0);
+        ASSERT_EQ(box.linesTotal, 11);
+        EXPECT_NEAR(box.lineHeight, pitch, 1e-3) << size;
+        EXPECT_NEAR(box.lines[10].rect.top() - box.lines[0].rect.top(), 10 * pitch, 1e-3) << size;
+        t.size = size;
+        t.text = QStringLiteral("H");
+        const int oneH = Ink(Draw(t)).height();
+        t.text = QStringLiteral("H") + QString(10, QLatin1Char('\n')) + QStringLiteral("H");
+        EXPECT_NEAR(Ink(Draw(t)).height() - oneH, 10 * pitch, 1.0) << size;
+    }
+}
+
+TEST(RenderText, WrapPointAtAFractionalSize) {
+    // At 11 pt (14.67 px) "The quick brown fox" is 18327/2048 em wide, 131.25 px, and a line
+    // keeps a sixth of an em free at each end: it fits a box of 136.14 px. At a rounded 15 px
+    // it would need 139.2 px.
+    const QString sentence = QStringLiteral("The quick brown fox jumps over the lazy dog");
+    const struct {
+        double width;
+        int firstLine; // characters, the blank after the last word included
+    } cases[] = {{135, 16}, {136.5, 20}, {139, 20}, {170, 20}};
+    for (const auto& c : cases) {
+        const TextBoxLayout box =
+            LayoutTextBox(sentence, 10, 10, c.width, 200, QStringLiteral("Arial"), 11, 0, 0, 0);
+        ASSERT_FALSE(box.lines.empty());
+        EXPECT_EQ(box.lines[0].start, 0);
+        EXPECT_EQ(box.lines[0].length, c.firstLine) << c.width;
+        EXPECT_FALSE(box.wordTooWide);
+    }
+}
+
+TEST(RenderText, LayoutTellsWhatFits) {
+    const QString font = QStringLiteral("Arial"); // 11 pt: lines 16.87 px apart
+    const struct {
+        QString text;
+        double height;
+        int lineAlign;
+        int total, visible;
+        bool tooWide;
+    } cases[] = {
+        {QStringLiteral("one two three"), 20, 0, 1, 1, false},
+        {QStringLiteral("one two three four five six seven"), 40, 0, 3, 2, false},
+        {QStringLiteral("one two three four five six seven"), 0, 0, 3, 3, false},
+        // Centred and too tall: only the middle line lies wholly inside.
+        {QStringLiteral("one two three four five six seven"), 20, 1, 3, 1, false},
+        {QStringLiteral("one Supercalifragilisticexpialidocious"), 100, 0, 4, 4, true},
+    };
+    for (const auto& c : cases) {
+        const TextBoxLayout box =
+            LayoutTextBox(c.text, 10, 10, 100, c.height, font, 11, 0, 0, c.lineAlign);
+        EXPECT_EQ(box.linesTotal, c.total) << c.text.toStdString() << " " << c.height;
+        EXPECT_EQ(box.linesVisible, c.visible) << c.text.toStdString() << " " << c.height;
+        EXPECT_EQ(box.wordTooWide, c.tooWide) << c.text.toStdString();
+    }
+    // Line ranges index the text as given: a CR LF pair is two characters of its line.
+    const TextBoxLayout breaks =
+        LayoutTextBox(QStringLiteral("ab\r\ncd\ref   "), 10, 10, 100, 100, font, 11, 0, 0, 0);
+    ASSERT_EQ(breaks.lines.size(), 3u);
+    const int ranges[3][2] = {{0, 4}, {4, 3}, {7, 2}};
+    for (size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(breaks.lines[i].start, ranges[i][0]) << i;
+        EXPECT_EQ(breaks.lines[i].length, ranges[i][1]) << i;
+    }
+    EXPECT_TRUE(LayoutTextBox(QStringLiteral("x"), 0, 0, 100, 100, QStringLiteral("No Such Zq"), 11,
+                              0, 0, 0)
+                    .lines.empty());
 }

@@ -119,6 +119,17 @@ TEST_F(WindowTest, StartsOnTheProfilePageWithTheDocumentsTabNames) {
     EXPECT_EQ(find<QAction>("SubEdit10")->text(), "Setting");
     EXPECT_EQ(find<QAction>("SubAbout6")->text(), "&About");
     EXPECT_EQ(window->toolbarAction(16)->toolTip(), "Generate Selfrun Resume");
+    // Save As has its key whatever the desktop's key theme says.
+    EXPECT_EQ(find<QAction>("SubFile8")->shortcut(), QKeySequence("Ctrl+Shift+S"));
+}
+
+TEST_F(WindowTest, TheTitleMarksUnsavedWork) {
+    EXPECT_EQ(window->windowTitle(), "Untitled[*] - Vitara Zentor");
+    EXPECT_FALSE(window->isWindowModified());
+    doc->Dirty = true;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->isWindowModified(); }, 2000));
+    doc->Dirty = false;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isWindowModified(); }, 2000));
 }
 
 TEST_F(WindowTest, InsertingATextSelectsItUnderTheFrame) {
@@ -400,6 +411,23 @@ TEST_F(WindowTest, TheGenerateCommandsWriteBothKindsOfPackage) {
     EXPECT_EQ(find<QLabel>("StatusPanel1")->text(), "Ready");
 }
 
+TEST_F(WindowTest, TheExportItemsWriteThePdfAndTheWebPage) {
+    const struct {
+        const char* item;
+        const char* title;
+        const char* filter;
+        const char* name;
+        QByteArray start;
+    } cases[] = {{"SubFile11", "Export PDF", "*.pdf|*.pdf", "cv.pdf", "%PDF"},
+                 {"SubFile12", "Export Web Page", "*.html|*.html", "cv.html", "<!DOCTYPE html>"}};
+    for (const auto& c : cases) {
+        const QString path = sandbox.path(QString::fromLatin1(c.name));
+        prompter.expectFile(true, c.title, c.filter, path);
+        find<QAction>(c.item)->trigger();
+        EXPECT_TRUE(ReadAll(path).startsWith(c.start)) << c.name;
+    }
+}
+
 TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
     struct Case {
         Prompter::Answer answer;
@@ -417,13 +445,12 @@ TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
         window->show();
     }
 
-    // Yes on a never-saved document: the save dialog is cancelled and the window still closes.
+    // Yes and then no save after all keeps the window open, so the work is not lost: the
+    // save dialog cancelled, or the save refused by the disk.
     prompter.expectYesNoCancel(title, text, Prompter::Answer::Yes);
     prompter.expectFile(true, "Save QDV Script File", ScriptFilter, QString());
-    EXPECT_TRUE(window->close());
-
-    // A save the disk refuses keeps the window open, so the work is not lost.
-    window->show();
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
     const QString nowhere = sandbox.path("no/such/folder/cv.qds");
     prompter.expectYesNoCancel(title, text, Prompter::Answer::Yes);
     prompter.expectFile(true, "Save QDV Script File", ScriptFilter, nowhere);

@@ -48,8 +48,10 @@ void Editor::CommonModth(int index) {
                 Prompter::Icon::Question, Prompter::Answer::No);
             if (a == Prompter::Answer::Cancel)
                 return;
-            if (a == Prompter::Answer::Yes)
-                CommonModth(CmdSave);
+            // Yes and then no save after all (dialog cancelled, disk refused): the work
+            // would be lost, so the command stops with everything as it was.
+            if (a == Prompter::Answer::Yes && !saveForQuestion())
+                return;
         }
         newOrOpen(index);
         break;
@@ -88,6 +90,13 @@ void Editor::CommonModth(int index) {
             generate_(index == CmdGenerateSelfrun);
         view_.setPointer(window, Pointer::Normal);
         break;
+    case CmdExportPdf:
+    case CmdExportWebPage:
+        view_.setPointer(window, Pointer::Hourglass);
+        if (export_)
+            export_(index);
+        view_.setPointer(window, Pointer::Normal);
+        break;
     case CmdSettings:
         view_.showSettings();
         break;
@@ -120,8 +129,14 @@ void Editor::newOrOpen(int index) {
     doc_.Dirty = false;
 }
 
+bool Editor::saveForQuestion() {
+    CommonModth(CmdSave);
+    return lastSaveWritten_;
+}
+
 // Returns false when the user refused to overwrite (the command stops there).
 bool Editor::save(bool alwaysAsk) {
+    lastSaveWritten_ = false;
     QString path = doc_.ScriptPath;
     if (alwaysAsk || path.isEmpty()) {
         path = prompter_.chooseFile(
@@ -140,9 +155,10 @@ bool Editor::save(bool alwaysAsk) {
         }
     }
     if (!SaveScript(doc_, path)) {
-        saveFailed_ = true;
         view_.setPointer(EditorView::PointerTarget::Window, EditorView::Pointer::Normal);
         prompter_.warn(SaveTitle, QStringLiteral("Can't save file : ") + path);
+    } else {
+        lastSaveWritten_ = true;
     }
     return true;
 }

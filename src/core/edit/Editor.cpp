@@ -7,6 +7,8 @@
 #include "edit/WorkspaceLayout.h"
 #include "io/ScriptFile.h"
 
+#include <QFileInfo>
+
 namespace zentor {
 
 Editor::Editor(Document& doc, const ProcessContext& ctx, EditorView& view, Prompter& prompter)
@@ -20,9 +22,15 @@ void Editor::formLoad() {
     st_.CurrentTab = 0;
     ShowAdd(false);
     if (!ctx_.CommandLine.isEmpty()) {
-        // A file that cannot be read leaves the default document, silently.
-        LoadScript(doc_, ctx_.CommandLine);
-        sizeAndCentreWorkspace();
+        if (!QFileInfo::exists(ctx_.CommandLine)) {
+            // A new project named on the command line: the default document, saved there by
+            // the first Save. Nothing is created until then.
+            doc_.ScriptPath = QFileInfo(ctx_.CommandLine).absoluteFilePath();
+        } else {
+            // A file that cannot be read leaves the default document, silently.
+            LoadScript(doc_, ctx_.CommandLine);
+            sizeAndCentreWorkspace();
+        }
     }
     applyStripCaptions();
     LoadTab(st_.CurrentTab);
@@ -30,18 +38,15 @@ void Editor::formLoad() {
 }
 
 bool Editor::queryUnload() {
-    // Asked whatever the dirty flag says; after Yes the window closes even when the user
-    // abandoned the save. A save the disk refused (the user was just told so) keeps the
-    // window open: closing then would lose the work.
+    // Asked whatever the dirty flag says. After Yes the window closes only when the work
+    // was saved: a cancelled save dialog or a save the disk refused keeps it open, since
+    // closing then would lose the work.
     const Prompter::Answer a = prompter_.ask(
         QStringLiteral("Exit Vitara Zentor"),
         QStringLiteral("Please save the work before exit. Exit with save?"),
         Prompter::Buttons::YesNoCancel, Prompter::Icon::Question, Prompter::Answer::No);
-    if (a == Prompter::Answer::Yes) {
-        saveFailed_ = false;
-        CommonModth(CmdSave);
-        return !saveFailed_;
-    }
+    if (a == Prompter::Answer::Yes)
+        return saveForQuestion();
     return a == Prompter::Answer::No;
 }
 

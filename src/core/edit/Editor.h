@@ -26,6 +26,8 @@ enum Command : int {
     CmdGenerateQdv = 15,
     CmdGenerateSelfrun = 16,
     CmdSettings = 17,
+    CmdExportPdf = 18,
+    CmdExportWebPage = 19,
 };
 
 enum class MouseButton { Left, Right, Middle };
@@ -36,6 +38,7 @@ enum class MouseButton { Left, Right, Middle };
 class Editor {
 public:
     using Generator = std::function<void(bool selfRun)>;
+    using Exporter = std::function<void(int command)>;
 
     Editor(Document& doc, const ProcessContext& ctx, EditorView& view, Prompter& prompter);
 
@@ -44,6 +47,8 @@ public:
     EditorState& state() { return st_; }
     // Generation is reached through this (the default does nothing).
     void setGenerator(Generator g) { generate_ = std::move(g); }
+    // The export commands (CmdExportPdf, CmdExportWebPage) are reached through this.
+    void setExporter(Exporter e) { export_ = std::move(e); }
 
     // --- Window lifecycle ---
     // Start-up: frame placed, profile page shown, the command-line project opened if any.
@@ -102,6 +107,9 @@ private:
     void applyStripCaptions();
     void sizeAndCentreWorkspace();
     bool save(bool alwaysAsk);
+    // Runs Save after a Yes to a question about unsaved work; true only when the file was
+    // written, so the asking command may go on.
+    bool saveForQuestion();
     void newOrOpen(int index);
     void insert(int kind);
     void step(bool next);
@@ -116,7 +124,8 @@ private:
     Prompter& prompter_;
     EditorState st_;
     Generator generate_;
-    bool saveFailed_ = false; // the last save could not be written
+    Exporter export_;
+    bool lastSaveWritten_ = false; // the last Save command wrote the file
 };
 
 // The support page opened by the About menu's "&Help".

@@ -1,52 +1,28 @@
 #pragma once
 
+#include "show/PackageLayout.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 
-#include <array>
-#include <cstdint>
-
 namespace zentor {
 
-// One row of a package's entry table: 12 bytes, three little-endian 32-bit integers.
-// Positions are 1-based and absolute in the whole file (the player's bytes included).
-struct PackEntry {
-    int32_t Kind = 0;     // PackKind
-    int32_t Position = 0; // 1-based; 0 when the slot is empty
-    int32_t Length = 0;
-    friend bool operator==(const PackEntry&, const PackEntry&) = default;
-};
-
-enum PackKind : int32_t { PackEmpty = 0, PackPicture = 1, PackMusic = 2 };
+// The package's table and fixed offsets are the players' (src/show); the editor adds only
+// what it writes.
+using PackEntry = show::PackEntry;
+using PackTable = show::PackTable;
+using show::PackEmpty;
+using show::PackKind;
+using show::PackMusic;
+using show::PackPicture;
 
 namespace Package {
-inline constexpr int EntryCount = 19;
-inline constexpr int EntrySize = 12;
-inline constexpr int TableSize = EntryCount * EntrySize;   // 228
-inline constexpr int HeaderOffset = TableSize;             // 228
-inline constexpr int ProfileOffset = HeaderOffset + 564;   // 792
-inline constexpr int TabNamesOffset = ProfileOffset + 800; // 1592
-inline constexpr int TabNameSize = 32;
-inline constexpr int TabNameCount = 7; // tabs 1..7; the slide show's name is not carried
-inline constexpr int BlobsOffset = TabNamesOffset + TabNameCount * TabNameSize; // 1816
-
-// The fixed slots.
-inline constexpr int UserIconEntry = 0;
-inline constexpr int UnusedEntry = 1;       // tab 1's icon is never carried
-inline constexpr int FirstTabIconEntry = 2; // entry n holds the icon of tab n, 2..8
-inline constexpr int LastTabIconEntry = 8;
-inline constexpr int BackPictureEntry = 9;
-inline constexpr int MusicEntry = 10;
-inline constexpr int FirstPageEntry = 11; // entry 10 + n holds page n, 1..8
-inline constexpr int PageCount = 8;
-
+using namespace show::Package;
 inline constexpr int UserIconSize = 128;
 inline constexpr int BackPictureWidth = 1024;
 inline constexpr int BackPictureHeight = 768;
 inline constexpr int JpegQuality = 95;
 } // namespace Package
-
-using PackTable = std::array<PackEntry, Package::EntryCount>;
 
 // The table's disk form, entry 0 first, and back. `bytes` must hold TableSize bytes.
 QByteArray EncodePackTable(const PackTable& table);

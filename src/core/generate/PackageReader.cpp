@@ -12,68 +12,32 @@
 namespace zentor {
 
 bool PackageContents::usable(int entry) const {
-    if (entry < 0 || entry >= Package::EntryCount)
-        return false;
-    const PackEntry& e = Entries[size_t(entry)];
-    if ((e.Kind != PackPicture && e.Kind != PackMusic) || e.Position < 1 || e.Length < 0)
-        return false;
-    const qint64 start = qint64(e.Position) - 1;
-    return start >= Base + Package::BlobsOffset && start + e.Length <= Data.size();
+    return Info.usable(entry);
 }
 
 QByteArray PackageContents::blob(int entry) const {
-    if (!usable(entry))
-        return QByteArray();
-    const PackEntry& e = Entries[size_t(entry)];
-    return Data.mid(qsizetype(e.Position) - 1, e.Length);
+    const show::BlobRange r = Info.range(entry);
+    return r.Length > 0 ? Data.mid(qsizetype(r.Offset), qsizetype(r.Length)) : QByteArray();
 }
 
 PackageContents ParsePackage(QByteArray data, PackageForm form) {
     PackageContents p;
     p.Data = std::move(data);
-    if (form == PackageForm::Detect) {
-        const bool program = p.Data.startsWith("\x7f"
-                                               "ELF") ||
-                             p.Data.startsWith("MZ");
-        form = program ? PackageForm::SelfRun : PackageForm::Qdv;
-    }
-    p.Form = form;
-    p.Base = form == PackageForm::SelfRun ? PlayerStubBytes : 0;
-    const qint64 size = p.Data.size();
-    if (size < p.Base + Package::BlobsOffset) {
-        p.Problems << QStringLiteral("the file has %1 bytes; a package needs at least %2")
-                          .arg(size)
-                          .arg(p.Base + Package::BlobsOffset);
+    p.Info = show::ParsePackage(p.Data.constData(), size_t(p.Data.size()), form);
+    p.Form = p.Info.Form;
+    p.Base = p.Info.Base;
+    p.Entries = p.Info.Entries;
+    p.Complete = p.Info.Complete;
+    for (const std::string& problem : p.Info.Problems)
+        p.Problems << QString::fromStdString(problem);
+    if (!p.Complete)
         return p;
-    }
     const char* at = p.Data.constData() + p.Base;
-    p.Entries = DecodePackTable(QByteArrayView(at, Package::TableSize));
     DecodeHeader(QByteArrayView(at + Package::HeaderOffset, RecordSize::Header), p.Header);
     DecodeProfile(QByteArrayView(at + Package::ProfileOffset, RecordSize::Profile), p.Profile);
     for (int i = 0; i < Package::TabNameCount; ++i)
         std::memcpy(p.TabNames[size_t(i)].data(),
                     at + Package::TabNamesOffset + i * Package::TabNameSize, Package::TabNameSize);
-    p.Complete = true;
-
-    for (int i = 0; i < Package::EntryCount; ++i) {
-        const PackEntry& e = p.Entries[size_t(i)];
-        const QString where = QStringLiteral("entry %1 (kind %2, position %3, length %4)")
-                                  .arg(i)
-                                  .arg(e.Kind)
-                                  .arg(e.Position)
-                                  .arg(e.Length);
-        if (e.Kind < PackEmpty || e.Kind > PackMusic)
-            p.Problems << where + QStringLiteral(": unknown kind");
-        else if (e.Kind == PackEmpty && (e.Position != 0 || e.Length != 0))
-            p.Problems << where + QStringLiteral(": an empty entry with a position or length");
-        else if (e.Kind != PackEmpty && !p.usable(i))
-            p.Problems << where +
-                              QStringLiteral(": does not lie inside the blobs of a %1-byte file")
-                                  .arg(size);
-    }
-    for (int i = 0; i < Package::PageCount; ++i)
-        if (p.Entries[size_t(Package::FirstPageEntry + i)].Kind == PackEmpty)
-            p.Problems << QStringLiteral("page %1 is missing").arg(i + 1);
     return p;
 }
 

@@ -2,6 +2,7 @@
 
 #include "generate/PackEntry.h"
 #include "model/Records.h"
+#include "show/PackageData.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -12,15 +13,14 @@
 
 namespace zentor {
 
-// Where a package's table lies: at the start of a data file, or after the player's bytes.
-enum class PackageForm { Qdv, SelfRun, Detect };
+using PackageForm = show::PackageForm;
+using show::PlayerStubBytes;
 
-// Bytes before the table of a self-running program: the player's fixed size.
-inline constexpr qint64 PlayerStubBytes = 524288;
-
-// A package taken apart. A damaged package still parses as far as it goes: what is wrong
-// is listed in Problems, and an entry that does not lie inside the file yields no blob.
+// A package taken apart by the players' reader, with the records in the editor's types.
+// A damaged package still parses as far as it goes: what is wrong is listed in Problems,
+// and an entry that does not lie inside the file yields no blob.
 struct PackageContents {
+    show::PackageInfo Info;
     PackageForm Form = PackageForm::Qdv;
     qint64 Base = 0; // byte offset of the entry table
     PackTable Entries{};

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <cerrno>
+#include <csignal>
 #include <unistd.h>
 
 namespace zentor {
@@ -31,6 +33,31 @@ bool ProcessContext::ensureWorkFolder() const {
 void ProcessContext::removeWorkFolder() const {
     if (!WorkFolder.isEmpty())
         QDir(WorkFolder).removeRecursively();
+}
+
+QString PrivateWorkTemplate(const QString& tempDir, const QString& program) {
+    return withSlash(tempDir) + program + QLatin1Char('-') + QString::number(qint64(getpid())) +
+           QStringLiteral("-XXXXXX");
+}
+
+int RemoveStaleWorkFolders(const QString& tempDir, const QString& program) {
+    const QString prefix = program + QLatin1Char('-');
+    int removed = 0;
+    const QStringList names =
+        QDir(tempDir).entryList({prefix + QLatin1Char('*')}, QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& name : names) {
+        // The owner's pid stands between the prefix and the next '-'; anything else is not ours.
+        const QString rest = name.mid(prefix.size());
+        bool ok = false;
+        const qint64 pid = rest.section(QLatin1Char('-'), 0, 0).toLongLong(&ok);
+        if (!ok || pid <= 0 || !rest.contains(QLatin1Char('-')))
+            continue;
+        if (::kill(pid_t(pid), 0) == 0 || errno != ESRCH)
+            continue; // alive, or not ours to ask about
+        if (QDir(withSlash(tempDir) + name).removeRecursively())
+            ++removed;
+    }
+    return removed;
 }
 
 void PrepareRuntimeDir() {

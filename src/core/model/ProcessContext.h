@@ -27,6 +27,13 @@ struct ProcessContext {
     void removeWorkFolder() const;
 };
 
+// A run's private work folder is named after its process ("zentor-cli-<pid>-XXXXXX" under
+// tempDir), so that a later run can tell a folder whose owner was killed from a live one.
+QString PrivateWorkTemplate(const QString& tempDir, const QString& program);
+// Removes every private work folder of `program` under tempDir whose process is gone;
+// returns how many it removed. Folders of live processes are left alone.
+int RemoveStaleWorkFolders(const QString& tempDir, const QString& program);
+
 // Qt warns on every start when XDG_RUNTIME_DIR is unset (as under CI): gives the process a
 // private one first. Call before creating the application object.
 void PrepareRuntimeDir();

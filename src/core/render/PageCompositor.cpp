@@ -41,23 +41,29 @@ static int ContentTabOf(int page) {
     return page == SlideShowTab ? 1 : page;
 }
 
+void PaintPage(QPainter& p, const Document& doc, int page, const ResImages& res,
+               PictureCache* cache) {
+    const QSize frame = FrameSize(doc);
+    if (page < 1 || page > SlideShowTab || frame.isEmpty())
+        return;
+    p.fillRect(QRect(QPoint(0, 0), frame), QColor(0xFFFFFFFFu));
+    const int tab = ContentTabOf(page);
+    const ImageElement& pic = doc.Tabs[size_t(tab)].Picture;
+    DrawPictureFile(p, ResolvePath(doc.ScriptPath, pic.FileName.trimmed()),
+                    BoxRect(pic.Left, pic.Top, pic.Width, pic.Height), cache);
+    DrawPageObjects(p, doc, tab, cache);
+    if (page == SlideShowTab)
+        DrawStretched(p, res.image(ResHired), BadgeRect(frame));
+}
+
 QImage RenderPageImage(const Document& doc, int page, const ResImages& res, PictureCache* cache) {
     if (page < 1 || page > SlideShowTab)
         return QImage();
     QImage canvas = WhiteFrameCanvas(doc);
     if (canvas.isNull())
         return QImage();
-    const QSize frame = canvas.size();
     QPainter p(&canvas);
-    const int tab = ContentTabOf(page);
-
-    const ImageElement& pic = doc.Tabs[size_t(tab)].Picture;
-    DrawPictureFile(p, ResolvePath(doc.ScriptPath, pic.FileName.trimmed()),
-                    BoxRect(pic.Left, pic.Top, pic.Width, pic.Height), cache);
-    DrawPageObjects(p, doc, tab, cache);
-
-    if (page == SlideShowTab)
-        DrawStretched(p, res.image(ResHired), BadgeRect(frame));
+    PaintPage(p, doc, page, res, cache);
     p.end();
     return canvas;
 }

@@ -5,6 +5,8 @@
 #include <QRect>
 #include <QSize>
 
+class QPainter;
+
 namespace zentor {
 
 struct Document;
@@ -35,6 +37,11 @@ QRect BadgeRect(QSize frame);
 // that is not sane.
 QImage RenderPageImage(const Document& doc, int page, const ResImages& res,
                        PictureCache* cache = nullptr);
+
+// Paints the same page on any surface whose coordinates are frame pixels (the page image,
+// a PDF page): white, then the page as above. Nothing for a page outside 1..8.
+void PaintPage(QPainter& p, const Document& doc, int page, const ResImages& res,
+               PictureCache* cache = nullptr);
 
 // The same page as JPEG bytes of quality 95 (empty on failure).
 QByteArray RenderPageJpeg(const Document& doc, int page, const ResImages& res,

@@ -24,7 +24,9 @@ QImage PictureCache::picture(const QString& path, QSize drawSize) {
         }
     }
     // Decode outside the lock so that two threads decode different pictures at once.
-    QImage img = LoadPicture(path, drawSize);
+    // Kept as drawn, so that a picture drawn twice at one size is one image (a PDF then
+    // holds it once).
+    QImage img = FitForDrawing(LoadPicture(path, drawSize), drawSize);
     std::lock_guard lock(mutex_);
     if (entries_.contains(key))
         return img;
@@ -89,14 +91,20 @@ QRect BoxRect(int left, int top, int width, int height) {
     return QRect(clamp(left), clamp(top), clamp(width), clamp(height));
 }
 
+QImage FitForDrawing(const QImage& image, QSize drawSize) {
+    if (image.isNull() || !drawSize.isValid() || drawSize.isEmpty())
+        return image;
+    // Reducing is done by averaging (the painter only samples), enlarging by the painter.
+    return drawSize.width() < image.width() || drawSize.height() < image.height()
+               ? image.scaled(drawSize.boundedTo(image.size()), Qt::IgnoreAspectRatio,
+                              Qt::SmoothTransformation)
+               : image;
+}
+
 void DrawStretched(QPainter& p, const QImage& image, const QRect& rect) {
     if (image.isNull() || rect.width() <= 0 || rect.height() <= 0)
         return;
-    // Reducing is done by averaging (the painter only samples), enlarging by the painter.
-    const QImage fitted = rect.width() < image.width() || rect.height() < image.height()
-                              ? image.scaled(rect.size().boundedTo(image.size()),
-                                             Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                              : image;
+    const QImage fitted = FitForDrawing(image, rect.size());
     if (fitted.size() == rect.size()) {
         p.drawImage(rect.topLeft(), fitted);
         return;

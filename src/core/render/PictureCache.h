@@ -22,7 +22,8 @@ class PictureCache {
 public:
     explicit PictureCache(qint64 maxBytes = 256LL * 1024 * 1024) : maxBytes_(maxBytes) {}
 
-    // The picture decoded for drawing at drawSize (see LoadPicture); null when unreadable.
+    // The picture decoded for drawing at drawSize (see LoadPicture) and reduced to it where
+    // larger (FitForDrawing); null when unreadable.
     QImage picture(const QString& path, QSize drawSize);
     // The picture's own size (see ReadPictureSize), remembered like the pictures.
     QSize pictureSize(const QString& path);
@@ -66,6 +67,10 @@ bool DrawPictureFile(QPainter& p, const QString& path, const QRect& rect, Pictur
 // A record's box as a rectangle. Damaged files may hold any 32-bit values, so the edges
 // are held to a range where no sum overflows; the visible result is the same.
 QRect BoxRect(int left, int top, int width, int height);
+
+// The image reduced by averaging where it is larger than it will be drawn; as it is where
+// it is not (the painter enlarges it).
+QImage FitForDrawing(const QImage& image, QSize drawSize);
 
 // Draws an image stretched over `rect`, smoothly; nothing for a null image or empty rect.
 void DrawStretched(QPainter& p, const QImage& image, const QRect& rect);

@@ -4,20 +4,14 @@
 #include "model/Document.h"
 #include "render/PictureCache.h"
 #include "render/PictureLoader.h"
+#include "show/Ring.h"
 
 #include <cmath>
 
 namespace zentor {
 
 int RoundHalfEven(double v) {
-    if (!std::isfinite(v))
-        return 0;
-    const double r = v - std::floor(v) == 0.5 ? 2.0 * std::round(v / 2.0) : std::round(v);
-    if (r >= 2147483647.0)
-        return 2147483647;
-    if (r <= -2147483648.0)
-        return int(-2147483647 - 1);
-    return int(r);
+    return show::RoundHalfEven(v);
 }
 
 namespace {

@@ -2,59 +2,60 @@
 
 #include "model/Records.h"
 
-#include <QFontDatabase>
-#include <QFontInfo>
+#include <QCoreApplication>
+#include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QHash>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
+#include <QRawFont>
 #include <QTextLayout>
+#include <QThread>
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <mutex>
+#include <memory>
 
 namespace zentor {
 namespace {
 
-// Point sizes beyond this are drawn at it: a damaged file must not ask for glyphs the
-// size of a house.
-constexpr int MaxPoints = 1000;
+// Glyph shapes at the exact size, hinted and antialiased as the hint says; where they stand
+// comes from the layout alone. The font engine snaps fonts to whole pixels, a raw font does
+// not. Kept per thread (engines belong to one), since one made anew for every text would
+// rasterise every glyph anew too; dropped before the application's fonts are.
+struct GlyphFont {
+    QRawFont laidOut; // the layout's font, to tell its runs from fallback fonts' runs
+    QRawFont drawn;
+};
+thread_local QHash<QString, GlyphFont> glyphFonts;
 
-// Windows families and the stand-ins fontconfig maps them to on this system.
-const QHash<QString, QStringList>& Aliases() {
-    static const QHash<QString, QStringList> aliases = {
-        {QStringLiteral("arial"), {QStringLiteral("Liberation Sans")}},
-        {QStringLiteral("helvetica"), {QStringLiteral("Liberation Sans")}},
-        {QStringLiteral("arial narrow"), {QStringLiteral("Liberation Sans Narrow")}},
-        {QStringLiteral("times new roman"), {QStringLiteral("Liberation Serif")}},
-        {QStringLiteral("times"), {QStringLiteral("Liberation Serif")}},
-        {QStringLiteral("courier new"), {QStringLiteral("Liberation Mono")}},
-        {QStringLiteral("courier"), {QStringLiteral("Liberation Mono")}},
-    };
-    return aliases;
-}
-
-bool LookUpFamily(const QString& family) {
-    const QString wanted = family.trimmed();
-    if (wanted.isEmpty())
-        return false;
-    const QStringList families = QFontDatabase::families();
-    if (families.contains(wanted, Qt::CaseInsensitive))
-        return true;
-    const auto it = Aliases().constFind(wanted.toLower());
-    if (it == Aliases().constEnd())
-        return false;
-    QFont font(wanted);
-    const QString resolved = QFontInfo(font).family();
-    return it->contains(resolved, Qt::CaseInsensitive);
-}
-
-QString RightTrimBlanks(const QString& s) {
-    qsizetype end = s.size();
-    while (end > 0 && s.at(end - 1) == QLatin1Char(' '))
-        --end;
-    return s.left(end);
+const GlyphFont& GlyphFontFor(const QString& family, int style, int size, int hint) {
+    QString key = family;
+    key += QChar(0);
+    key += QString::number(qint64(size) << 16 | (style & 0xFF) << 8 | (hint & 0xFF));
+    const auto it = glyphFonts.constFind(key);
+    if (it != glyphFonts.constEnd())
+        return *it;
+    // A page rarely mixes more than a handful; a damaged file must not grow this forever.
+    if (glyphFonts.size() >= 64)
+        glyphFonts.clear();
+    // Other threads drop theirs when they end; the main thread's goes with the application.
+    const QCoreApplication* app = QCoreApplication::instance();
+    if (glyphFonts.isEmpty() && app && QThread::currentThread() == app->thread())
+        qAddPostRoutine([] { glyphFonts.clear(); });
+    const QFont layoutFont = LayoutFont(family, style);
+    QFont shapes = layoutFont;
+    const double exact = LayoutScale(size) * shapes.pixelSize();
+    const int whole = std::max(1, int(std::lround(exact)));
+    shapes.setPixelSize(whole);
+    shapes.setHintingPreference(HintingFor(hint));
+    if (hint != int(TextHint::SystemDefault))
+        shapes.setStyleStrategy(AntialiasedFor(hint) ? QFont::PreferAntialias : QFont::NoAntialias);
+    QRawFont raw = QRawFont::fromFont(shapes);
+    if (exact != whole)
+        raw.setPixelSize(exact);
+    return *glyphFonts.insert(key, {QRawFont::fromFont(layoutFont), raw});
 }
 
 } // namespace
@@ -63,153 +64,189 @@ uint32_t ShadowColorFor(uint32_t argb) {
     return argb == 0xFF000000u ? 0xFFFFFFFFu : 0xFF000000u;
 }
 
-bool FontFamilyAvailable(const QString& family) {
-    static std::mutex mutex;
-    static QHash<QString, bool> known;
-    std::lock_guard lock(mutex);
-    const auto it = known.constFind(family);
-    if (it != known.constEnd())
-        return *it;
-    const bool ok = LookUpFamily(family);
-    known.insert(family, ok);
-    return ok;
-}
-
-QFont MakeTextFont(const QString& family, int points, int style, int hint) {
-    QFont font(family.trimmed());
-    font.setPixelSize(std::max(1, int(std::lround(std::min(points, MaxPoints) * 96.0 / 72.0))));
-    font.setBold(style & 1);
-    font.setItalic(style & 2);
-    font.setUnderline(style & 4);
-    font.setStrikeOut(style & 8);
-    // Kerning would make the page differ from what the hint names suggest: keep it plain.
-    font.setKerning(false);
+QFont::HintingPreference HintingFor(int hint) {
     switch (TextHint(hint)) {
     case TextHint::SingleBitPerPixelGridFit:
-        font.setStyleStrategy(QFont::NoAntialias);
-        font.setHintingPreference(QFont::PreferFullHinting);
-        break;
-    case TextHint::SingleBitPerPixel:
-        font.setStyleStrategy(QFont::NoAntialias);
-        font.setHintingPreference(QFont::PreferNoHinting);
-        break;
     case TextHint::AntiAliasGridFit:
-        font.setStyleStrategy(QFont::PreferAntialias);
-        font.setHintingPreference(QFont::PreferFullHinting);
-        break;
+        return QFont::PreferFullHinting;
+    case TextHint::SingleBitPerPixel:
     case TextHint::AntiAlias:
-        font.setStyleStrategy(QFont::PreferAntialias);
-        font.setHintingPreference(QFont::PreferNoHinting);
-        break;
+        return QFont::PreferNoHinting;
     case TextHint::ClearTypeGridFit:
         // ClearType fits the grid vertically and keeps fractional positions across.
-        font.setStyleStrategy(QFont::PreferAntialias);
-        font.setHintingPreference(QFont::PreferVerticalHinting);
-        break;
+        return QFont::PreferVerticalHinting;
     case TextHint::SystemDefault:
     default:
-        break;
+        return QFont::PreferDefaultHinting;
     }
-    return font;
+}
+
+bool AntialiasedFor(int hint) {
+    return hint != int(TextHint::SingleBitPerPixelGridFit) &&
+           hint != int(TextHint::SingleBitPerPixel);
 }
 
 void DrawFontText(QPainter& g, const QString& text, double left, double top, double width,
                   double height, const QString& fontName, int size, int style, int align,
                   int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset) {
-    QString s = RightTrimBlanks(text);
-    if (s.isEmpty() || size < 1 || !FontFamilyAvailable(fontName))
-        return;
-    s.replace(QLatin1String("\r\n"), QString(QChar::LineSeparator));
-    s.replace(QLatin1Char('\r'), QChar::LineSeparator);
-    s.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    DrawLinkedText(g, text, left, top, width, height, fontName, size, style, align, lineAlign,
+                   color, shadow, hint, shadowOffset, QString());
+}
 
-    // The box goes through single precision, as the drawing library takes it.
+namespace {
+
+// The shaped lines once more, as one text carrying a link: a PDF makes a link of text drawn
+// with an anchor format. Same font, same line breaks and positions as `shaped`.
+std::unique_ptr<QTextLayout> LinkedLayout(const ShapedTextBox& shaped, const QString& fontName,
+                                          int style, const QString& href) {
+    auto linked = std::make_unique<QTextLayout>(shaped.layout->text(), LayoutFont(fontName, style));
+    QTextLayout::FormatRange range;
+    range.start = 0;
+    range.length = int(shaped.layout->text().size());
+    range.format.setAnchor(true);
+    range.format.setAnchorHref(href);
+    linked->setFormats({range});
+    linked->setTextOption(shaped.layout->textOption());
+    linked->beginLayout();
+    for (int i = 0; i < shaped.layout->lineCount(); ++i) {
+        const QTextLine from = shaped.layout->lineAt(i);
+        QTextLine line = linked->createLine();
+        if (!line.isValid())
+            break;
+        line.setNumColumns(from.textLength());
+        line.setLeadingIncluded(true);
+        line.setPosition(from.position());
+    }
+    linked->endLayout();
+    return linked;
+}
+
+} // namespace
+
+void DrawLinkedText(QPainter& g, const QString& text, double left, double top, double width,
+                    double height, const QString& fontName, int size, int style, int align,
+                    int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset,
+                    const QString& href) {
+    const ShapedTextBox shaped =
+        ShapeTextBox(text, left, top, width, height, fontName, size, style, align, lineAlign);
+    if (!shaped.layout)
+        return;
     const float x = float(left), y = float(top), w = float(width), h = float(height);
     const bool wrap = w > 0, clipY = h > 0;
 
-    const QFont font = MakeTextFont(fontName, size, style, hint);
-    // A sixth of an em of room at each end of a line, as pages laid out on Windows have:
-    // the same text then breaks at the same words.
-    const double pad = font.pixelSize() / 6.0;
-    QTextLayout layout(s, font);
-    QTextOption option;
-    option.setWrapMode(wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
-    layout.setTextOption(option);
-    layout.setCacheEnabled(true);
-    layout.beginLayout();
-    double lineY = 0;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLeadingIncluded(true);
-        if (wrap)
-            line.setLineWidth(std::max(1.0, w - 2 * pad));
-        const double room = wrap ? w : 0.0;
-        const double used = line.naturalTextWidth();
-        double dx = pad;
-        if (align == 1)
-            dx = (room - used) / 2;
-        else if (align == 2)
-            dx = room - pad - used;
-        line.setPosition(QPointF(dx, lineY));
-        lineY += line.height();
-        // Top-aligned lines wholly below the box would be clipped away: stop there.
-        if (clipY && lineAlign == 0 && lineY > h + line.height())
-            break;
-    }
-    layout.endLayout();
-
-    double dy = 0;
-    const double room = clipY ? h : 0.0;
-    if (lineAlign == 1)
-        dy = (room - lineY) / 2;
-    else if (lineAlign == 2)
-        dy = room - lineY;
-
-    const bool noAA =
-        hint == int(TextHint::SingleBitPerPixelGridFit) || hint == int(TextHint::SingleBitPerPixel);
     // Clipping costs time on every glyph; only needed when the text leaves its box.
     QRectF inked;
-    for (int i = 0; i < layout.lineCount(); ++i)
-        inked |= layout.lineAt(i).naturalTextRect();
-    inked.translate(0, dy);
-    const bool needClip = (wrap && (inked.left() < 0 || inked.right() > w)) ||
-                          (clipY && (inked.top() < 0 || inked.bottom() > h));
-    // Plain text: the glyphs are taken from the layout once and drawn by every pass. Glyph
-    // runs misplace underline and strikeout, so decorated text is drawn by the layout.
-    const bool decorated = style & 12;
-    const QList<QGlyphRun> runs = decorated ? QList<QGlyphRun>() : layout.glyphRuns();
+    for (const TextBoxLine& line : shaped.box.lines)
+        inked |= line.rect;
+    const bool needClip = (wrap && (inked.left() < x || inked.right() > x + w)) ||
+                          (clipY && (inked.top() < y || inked.bottom() > y + h));
+    const double scale = shaped.scale;
+    const GlyphFont& fonts = GlyphFontFor(fontName, style, size, hint);
+
+    // Underline and strikeout are drawn as bars of their own: glyph runs misplace them.
+    std::vector<double> bars; // offsets below the baseline, layout pixels
+    double barHeight = 0;
+    if (style & 12) {
+        const QFontMetricsF metrics(LayoutFont(fontName, style));
+        if (style & 4)
+            bars.push_back(metrics.underlinePos());
+        if (style & 8)
+            bars.push_back(-metrics.strikeOutPos());
+        barHeight = std::max(metrics.lineWidth() * scale, 1.0);
+    }
+    QList<QRectF> barRects;
+
+    QList<QGlyphRun> runs;
+    const double reach = std::abs(shadowOffset) + 1.0;
+    for (int i = 0; i < shaped.layout->lineCount(); ++i) {
+        const QRectF& r = shaped.box.lines[size_t(i)].rect;
+        if (clipY && (r.bottom() <= y - reach || r.top() >= y + h + reach))
+            continue;
+        for (QGlyphRun run : shaped.layout->lineAt(i).glyphRuns()) {
+            QList<QPointF> at = run.positions();
+            for (QPointF& p : at)
+                p = shaped.origin + p * scale;
+            run.setPositions(at);
+            if (run.rawFont() == fonts.laidOut) {
+                run.setRawFont(fonts.drawn);
+            } else {
+                // A character the font lacks comes from a fallback font: same glyphs, scaled.
+                QRawFont fallback = run.rawFont();
+                fallback.setPixelSize(fallback.pixelSize() * scale);
+                run.setRawFont(fallback);
+            }
+            run.setUnderline(false);
+            run.setStrikeOut(false);
+            // One run for all lines in one font: every run drawn costs a pass of its own.
+            if (!runs.isEmpty() && runs.last().rawFont() == run.rawFont()) {
+                QGlyphRun& joined = runs.last();
+                joined.setGlyphIndexes(joined.glyphIndexes() + run.glyphIndexes());
+                joined.setPositions(joined.positions() + run.positions());
+            } else {
+                runs += run;
+            }
+        }
+        const QTextLine line = shaped.layout->lineAt(i);
+        for (const double below : bars)
+            barRects +=
+                QRectF(r.left(), r.top() + (line.ascent() + below) * scale, r.width(), barHeight);
+    }
+
+    // In a PDF, text drawn as text is read back by every reader: there the shadow passes are
+    // glyph outlines, so that each word is found once, and a link is drawn as a linked text.
+    const bool pdf = g.paintEngine() && g.paintEngine()->type() == QPaintEngine::Pdf;
+    const auto linked = pdf && !href.isEmpty() ? LinkedLayout(shaped, fontName, style, href)
+                                               : std::unique_ptr<QTextLayout>();
+
     g.save();
-    g.setRenderHint(QPainter::TextAntialiasing, !noAA);
-    auto draw = [&](QPointF at) {
-        if (decorated) {
-            layout.draw(&g, at);
-            return;
-        }
-        for (const QGlyphRun& run : runs)
-            g.drawGlyphRun(at, run);
-    };
-    auto pass = [&](uint32_t argb, double ox, double oy) {
+    g.setRenderHint(QPainter::TextAntialiasing, AntialiasedFor(hint));
+    QPainterPath outlinePath; // the shadow's glyphs, made once for both passes
+    auto pass = [&](uint32_t argb, double ox, double oy, bool outlines) {
         g.setPen(QColor::fromRgba(argb));
-        if (!needClip) {
-            draw(QPointF(x + ox, y + oy + dy));
-            return;
+        if (needClip) {
+            QRectF clip(x + ox, y + oy, wrap ? w : 2e7, clipY ? h : 2e7);
+            if (!wrap)
+                clip.moveLeft(-1e7);
+            if (!clipY)
+                clip.moveTop(-1e7);
+            g.save();
+            g.setClipRect(clip, Qt::IntersectClip);
         }
-        QRectF clip(x + ox, y + oy, wrap ? w : 2e7, clipY ? h : 2e7);
-        if (!wrap)
-            clip.moveLeft(-1e7);
-        if (!clipY)
-            clip.moveTop(-1e7);
-        g.save();
-        g.setClipRect(clip, Qt::IntersectClip);
-        draw(QPointF(x + ox, y + oy + dy));
-        g.restore();
+        if (linked && !outlines) {
+            const QTransform base = g.transform();
+            QTransform t = base;
+            t.translate(shaped.origin.x() + ox, shaped.origin.y() + oy);
+            t.scale(scale, scale);
+            g.setTransform(t);
+            linked->draw(&g, QPointF());
+            g.setTransform(base);
+        } else if (outlines) {
+            if (outlinePath.isEmpty()) {
+                for (const QGlyphRun& run : runs) {
+                    const QRawFont font = run.rawFont();
+                    const QList<quint32> glyphs = run.glyphIndexes();
+                    const QList<QPointF> at = run.positions();
+                    for (qsizetype i = 0; i < glyphs.size() && i < at.size(); ++i)
+                        outlinePath.addPath(font.pathForGlyph(glyphs[i]).translated(at[i]));
+                }
+            }
+            g.fillPath(outlinePath.translated(ox, oy), g.pen().color());
+        } else {
+            for (const QGlyphRun& run : runs)
+                g.drawGlyphRun(QPointF(ox, oy), run);
+        }
+        for (const QRectF& bar : barRects)
+            g.fillRect(bar.translated(ox, oy), g.pen().color());
+        if (needClip)
+            g.restore();
     };
     if (shadow != 0) {
         const uint32_t shadowColor = ShadowColorFor(color);
-        pass(shadowColor, shadowOffset, shadowOffset);
+        pass(shadowColor, shadowOffset, shadowOffset, pdf);
         // Once more unshifted: it thickens the glyph edges under the text.
-        pass(shadowColor, 0, 0);
+        pass(shadowColor, 0, 0, pdf);
     }
-    pass(color, 0, 0);
+    pass(color, 0, 0, false);
     g.restore();
 }
 

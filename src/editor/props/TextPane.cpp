@@ -30,13 +30,13 @@ void BuildTextPane(QWidget* pane, PaneControls& c) {
     c.LabFontColor->setTextInteractionFlags(Qt::TextSelectableByMouse);
     font->addRow(QStringLiteral("Color:"), c.LabFontColor);
     c.CombAlign[0] = pane::Combo(QStringLiteral("CombAlign0"), PropertyCombo::AlignH);
-    font->addRow(QStringLiteral("Align:"), c.CombAlign[0]);
+    font->addRow(QStringLiteral("Horizontal Alignment"), c.CombAlign[0]);
     c.CombAlign[1] = pane::Combo(QStringLiteral("CombAlign1"), PropertyCombo::AlignV);
-    font->addRow(QStringLiteral("Line Align:"), c.CombAlign[1]);
+    font->addRow(QStringLiteral("Vertical Alignment"), c.CombAlign[1]);
     c.CombFontShadow = pane::Combo(QStringLiteral("CombFontShadow"), PropertyCombo::FontShadow);
-    font->addRow(QStringLiteral("Shadow:"), c.CombFontShadow);
+    font->addRow(QStringLiteral("Font Shadow"), c.CombFontShadow);
     c.CombTextHint = pane::Combo(QStringLiteral("CombTextHint"), PropertyCombo::TextHint);
-    font->addRow(QStringLiteral("Text Hint:"), c.CombTextHint);
+    font->addRow(QStringLiteral("TextRenderHint"), c.CombTextHint);
 
     QFormLayout* size = pane::Group(page, QStringLiteral("Text Size"));
     pane::LocationRows(size, QStringLiteral("TxtFont"), c.FontLoc);

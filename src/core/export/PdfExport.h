@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace zentor {
+
+struct Document;
+struct ProcessContext;
+class ResImages;
+
+// The résumé as a PDF a recruiter can open and a tracking system can read: page 1 a cover
+// made from the profile, pages 2..8 the seven content pages in the strip's order (Personal
+// first, Overview last), every page at the frame's size (96 pixels to the inch) and painted
+// by the page painter, so texts are real text in embedded fonts and pictures are held
+// once each at the size they are drawn. Title and author name the person; the creator is
+// Vitara Zentor. Empty when the frame cannot be drawn.
+QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx);
+
+// Adds an author to the information dictionary of a PDF that has a classic cross-reference
+// table, moving the offsets after it. Returns false and leaves `pdf` alone when it has no
+// such dictionary or table.
+bool AddPdfAuthor(QByteArray& pdf, const QString& author);
+
+} // namespace zentor

@@ -1,0 +1,231 @@
+#include "show/Ring.h"
+#include "show/ShowModel.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using namespace zentor::show;
+
+namespace {
+
+constexpr int Home = HomePicture;
+
+ShowHeader header(int speed, int asRun, int keep) {
+    ShowHeader h;
+    h.ShowSpeed = speed;
+    h.ShowAsRun = asRun;
+    h.KeepOnTime = keep;
+    h.MusicVolume = 500;
+    h.AutoRepeat = 1;
+    return h;
+}
+
+TEST(ShowSettingsTest, HoldAndFadeFollowTheHeaderWithinTheirRanges) {
+    struct Case {
+        int speed, keep, hold, fade;
+    } cases[] = {
+        {0, 7000, 7000, 0},    {10, 7000, 7000, 250},     {20, 7000, 7000, 500},
+        {30, 7000, 7000, 750}, {40, 7000, 7000, 1000},    {90, 999, 1000, 1000},
+        {-5, 0, 1000, 0},      {20, 600001, 600000, 500}, {20, -1, 1000, 500},
+    };
+    for (const Case& c : cases) {
+        const ShowSettings s = ShowSettingsOf(header(c.speed, 1, c.keep));
+        EXPECT_EQ(s.HoldMs, c.hold) << c.keep;
+        EXPECT_EQ(s.FadeMs, c.fade) << c.speed;
+    }
+    EXPECT_TRUE(ShowSettingsOf(header(20, 1, 7000)).AutoRun);
+    EXPECT_FALSE(ShowSettingsOf(header(20, 0, 7000)).AutoRun);
+    EXPECT_FALSE(ShowSettingsOf(header(20, 2, 7000)).AutoRun);
+}
+
+TEST(ShowSettingsTest, MusicVolumeAndLoop) {
+    struct Case {
+        int volume, repeat;
+        double expectVolume;
+        bool loop;
+    } cases[] = {{500, 1, 0.5, true},
+                 {0, 0, 0.0, false},
+                 {1000, 2, 1.0, false},
+                 {4000, 1, 1.0, true},
+                 {-3, 1, 0.0, true}};
+    for (const Case& c : cases) {
+        ShowHeader h;
+        h.MusicVolume = c.volume;
+        h.AutoRepeat = c.repeat;
+        const MusicSettings m = MusicSettingsOf(h, true);
+        EXPECT_DOUBLE_EQ(m.Volume, c.expectVolume) << c.volume;
+        EXPECT_EQ(m.Loop, c.loop) << c.repeat;
+    }
+}
+
+// What shows at time t of a show opened at 0 with no input.
+TEST(ShowModelTest, TimelineWithoutInput) {
+    struct Case {
+        int asRun, keep, speed;
+        int64_t t;
+        ScreenState expect;
+    } cases[] = {
+        // Runs at once: the first page fades in over the home page.
+        {1, 7000, 20, 0, {17, Home, 0.0}},
+        {1, 7000, 20, 250, {17, Home, 0.5}},
+        {1, 7000, 20, 500, {17, Home, 1.0}},
+        {1, 7000, 20, 6999, {17, Home, 1.0}},
+        {1, 7000, 20, 7000, {16, 17, 0.0}},
+        {1, 7000, 20, 6 * 7000 + 100, {11, 12, 0.2}},
+        {1, 7000, 20, 7 * 7000 + 600, {18, 11, 1.0}},
+        // After the last page: home.
+        {1, 7000, 20, 8 * 7000 + 250, {Home, 18, 0.5}},
+        {1, 7000, 20, 100 * 7000, {Home, 18, 1.0}},
+        // Held to the shortest and longest holding times.
+        {1, 10, 0, 1000, {16, 17, 1.0}},
+        {1, 10, 0, 999, {17, Home, 1.0}},
+        {1, 50000000, 0, 600000, {16, 17, 1.0}},
+        // Not running: home, whatever the time.
+        {0, 7000, 20, 0, {Home, Home, 1.0}},
+        {0, 7000, 20, 60000, {Home, Home, 1.0}},
+    };
+    for (const Case& c : cases) {
+        const ShowModel m(ShowSettingsOf(header(c.speed, c.asRun, c.keep)), 0);
+        EXPECT_EQ(m.at(c.t), c.expect) << "asRun " << c.asRun << " keep " << c.keep << " t " << c.t;
+    }
+}
+
+TEST(ShowModelTest, OpeningTimeIsTheShowsZero) {
+    const ShowModel m(ShowSettingsOf(header(0, 1, 2000)), 123456);
+    EXPECT_EQ(m.at(123456 + 2000).Picture, 16);
+    EXPECT_TRUE(m.running(123456 + 15999));
+    EXPECT_FALSE(m.running(123456 + 16000));
+}
+
+struct Input {
+    int64_t t;
+    enum { Key, Click } kind;
+    ShowKey key;
+    int icon;
+};
+
+Input key(int64_t t, ShowKey k) {
+    return {t, Input::Key, k, 0};
+}
+Input click(int64_t t, int icon) {
+    return {t, Input::Click, ShowKey::M, icon};
+}
+
+// Inputs on a fake clock, then what is on screen (the fade over, speed 0).
+TEST(ShowModelTest, InputMovesTheShow) {
+    struct Case {
+        const char* name;
+        int asRun;
+        std::vector<Input> inputs;
+        int64_t t;
+        int picture;
+        bool running;
+    } cases[] = {
+        {"ring icon 1 shows the Overview", 0, {click(10, 1)}, 20, 11, false},
+        {"ring icon 7 shows Personal", 0, {click(10, 7)}, 20, 17, false},
+        {"ring icon 3 shows its tab", 0, {click(10, 3)}, 20, 13, false},
+        {"the centre does nothing", 0, {click(10, 0)}, 20, Home, false},
+        {"slide-show icon starts the show", 0, {click(10, 8)}, 10 + 2000, 16, true},
+        {"icons are not there during the show", 1, {click(10, 1)}, 20, 17, true},
+        {"Escape on a page goes home",
+         0,
+         {click(10, 2), key(20, ShowKey::Escape)},
+         30,
+         Home,
+         false},
+        {"Escape during the show goes home", 1, {key(3000, ShowKey::Escape)}, 9000, Home, false},
+        {"Right from home: first page", 0, {key(10, ShowKey::Right)}, 20, 17, false},
+        {"PgDn twice", 0, {key(10, ShowKey::PageDown), key(20, ShowKey::PageDown)}, 30, 16, false},
+        {"Left from home: the slide-show page", 0, {key(10, ShowKey::Left)}, 20, 18, false},
+        {"Up from the first page: home", 0, {click(10, 7), key(20, ShowKey::Up)}, 30, Home, false},
+        {"Down from the last page: home",
+         0,
+         {click(10, 1), key(20, ShowKey::Down), key(30, ShowKey::Down)},
+         40,
+         Home,
+         false},
+        {"Right in the show skips on and keeps time from there",
+         1,
+         {key(500, ShowKey::Right)},
+         500 + 1999,
+         16,
+         true},
+        {"Right in the show, a slot later", 1, {key(500, ShowKey::Right)}, 500 + 2000, 15, true},
+        {"PgUp on the first page of the show: home",
+         1,
+         {key(500, ShowKey::PageUp)},
+         600,
+         Home,
+         false},
+        {"F5 starts the show from the first page",
+         0,
+         {click(10, 4), key(20, ShowKey::F5)},
+         30,
+         17,
+         true},
+        {"F5 restarts a running show", 1, {key(5000, ShowKey::F5)}, 5000 + 2000 - 1, 17, true},
+        {"Space pauses", 1, {key(1000, ShowKey::Space)}, 50000, 17, true},
+        {"Space resumes where it paused",
+         1,
+         {key(1000, ShowKey::Space), key(11000, ShowKey::Space)},
+         12999,
+         17,
+         true},
+        {"resumed, the slot ends late by the pause",
+         1,
+         {key(1000, ShowKey::Space), key(11000, ShowKey::Space)},
+         12000,
+         16,
+         true},
+        {"Space does nothing at home", 0, {key(10, ShowKey::Space)}, 5000, Home, false},
+        {"after the show, icons work again", 1, {click(16000, 2)}, 16010, 12, false},
+    };
+    for (const Case& c : cases) {
+        ShowModel m(ShowSettingsOf(header(0, c.asRun, 2000)), 0);
+        for (const Input& in : c.inputs)
+            if (in.kind == Input::Key)
+                m.key(in.key, in.t);
+            else
+                m.clickIcon(in.icon, in.t);
+        EXPECT_EQ(m.at(c.t).Picture, c.picture) << c.name;
+        EXPECT_EQ(m.running(c.t), c.running) << c.name;
+    }
+}
+
+TEST(ShowModelTest, EscapeOnHomeQuitsAndMTogglesMute) {
+    ShowModel m(ShowSettingsOf(header(20, 0, 7000)), 0);
+    EXPECT_EQ(m.key(ShowKey::M, 10), ShowReaction::Redraw);
+    EXPECT_TRUE(m.muted());
+    m.key(ShowKey::M, 20);
+    EXPECT_FALSE(m.muted());
+    EXPECT_EQ(m.key(ShowKey::Escape, 30), ShowReaction::Quit);
+}
+
+// A change fades from what was on screen at that moment, and asks for frames while it does.
+TEST(ShowModelTest, ChangesFadeFromWhatWasShown) {
+    ShowModel m(ShowSettingsOf(header(40, 0, 7000)), 0);
+    EXPECT_EQ(m.nextChangeMs(5), -1);
+    m.clickIcon(3, 100);
+    EXPECT_EQ(m.at(600), (ScreenState{13, Home, 0.5}));
+    EXPECT_EQ(m.nextChangeMs(600), 600);
+    EXPECT_EQ(m.nextChangeMs(1100), -1);
+    m.key(ShowKey::F5, 2000);
+    EXPECT_EQ(m.at(2000), (ScreenState{17, 13, 0.0}));
+    EXPECT_EQ(m.nextChangeMs(3500), 2000 + 7000);
+}
+
+TEST(RingTest, IconsAroundTheCentreAndHitTesting) {
+    const IconRectTable r = RingRects(800, 600);
+    EXPECT_EQ(r[0], (IconRect{336, 236, 464, 364}));
+    EXPECT_EQ(r[1], (IconRect{610, 260, 690, 340}));
+    EXPECT_EQ(r[3], (IconRect{360, 510, 440, 590}));
+    EXPECT_EQ(r[5], (IconRect{110, 260, 190, 340}));
+    EXPECT_EQ(IconAt(r, 650, 300), 1);
+    EXPECT_EQ(IconAt(r, 400, 550), 3);
+    EXPECT_EQ(IconAt(r, 400, 300), 0);
+    EXPECT_EQ(IconAt(r, 5, 5), -1);
+    EXPECT_EQ(IconAt(r, 690, 300), -1); // right and bottom edges lie outside
+}
+
+} // namespace
