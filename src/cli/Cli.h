@@ -56,6 +56,9 @@ namespace zentor::cli {
 std::unique_ptr<Document> OpenProject(const QString& path, const ProcessContext& ctx,
                                       LoadReport& report);
 
+// Says on stderr (and returns false) when the document's frame size cannot be drawn.
+bool CheckFrameDrawable(const QString& project, const Document& doc);
+
 // `info` of a package (.qdv or self-running); format is "qdv" or "exe".
 int InfoPackage(const QString& path, const QString& format, const ProcessContext& ctx);
 } // namespace zentor::cli

@@ -41,12 +41,19 @@ public:
 
 int runGenerate(const Args& args, const ProcessContext& ctx) {
     if (args.positional.size() != 2)
-        return Fail(
-            QStringLiteral("usage: zentor-cli generate PROJECT.qds OUT [--selfrun] [--strict]"),
-            ExitUsage);
+        return Fail(QStringLiteral("usage: zentor-cli generate PROJECT.qds OUT [--selfrun] "
+                                   "[--player linux|windows] [--strict]"),
+                    ExitUsage);
     const QString project = args.positional[0];
     const QString out = args.positional[1];
-    const bool selfRun = args.has(QStringLiteral("--selfrun")) ||
+    // Naming a player asks for a self-running file; only the Linux player is built so far.
+    const QString player = args.options.value(QStringLiteral("--player"));
+    if (!player.isEmpty() && player != QLatin1String("linux"))
+        return Fail(player == QLatin1String("windows")
+                        ? QStringLiteral("this build has no Windows player; use --player linux")
+                        : QStringLiteral("unknown player \"%1\"; use linux or windows").arg(player),
+                    ExitUsage);
+    const bool selfRun = !player.isEmpty() || args.has(QStringLiteral("--selfrun")) ||
                          out.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive);
     const bool strict = args.has(QStringLiteral("--strict"));
 
@@ -128,8 +135,9 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
 }
 
 const Register reg({QStringLiteral("generate"),
-                    QStringLiteral("generate PROJECT.qds OUT [--selfrun] [--strict]"),
-                    {},
+                    QStringLiteral("generate PROJECT.qds OUT [--selfrun] [--player linux|windows] "
+                                   "[--strict]"),
+                    {QStringLiteral("--player")},
                     runGenerate});
 
 } // namespace

@@ -3,10 +3,14 @@
 #include "io/FileUtil.h"
 #include "io/ProjectJson.h"
 #include "io/ScriptFile.h"
+#include "model/CodePage.h"
+#include "model/CodePageCheck.h"
 #include "model/DefaultDocument.h"
+#include "render/PageCompositor.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonParseError>
 
@@ -57,9 +61,32 @@ int runInfo(const Args& args, const ProcessContext& ctx) {
                 ExitUsage);
 }
 
+// Every string of the input ends up in a stored field; warns once per field naming the
+// characters the code page would turn into '?'. Returns how many fields lose characters.
+int warnUnstorable(const QJsonValue& value, const QString& field) {
+    if (value.isString()) {
+        const QString note = UnstorableNote(CodePage::active(), value.toString());
+        if (!note.isEmpty())
+            Warn(field + QStringLiteral(": ") + note);
+        return note.isEmpty() ? 0 : 1;
+    }
+    int fields = 0;
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        for (qsizetype i = 0; i < array.size(); ++i)
+            fields += warnUnstorable(array[i], QStringLiteral("%1[%2]").arg(field).arg(i));
+    } else if (value.isObject()) {
+        const QJsonObject object = value.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it)
+            fields +=
+                warnUnstorable(it.value(), field.isEmpty() ? it.key() : field + u'.' + it.key());
+    }
+    return fields;
+}
+
 int runPack(const Args& args, const ProcessContext& ctx) {
     if (args.positional.size() != 2)
-        return Fail(QStringLiteral("usage: zentor-cli pack IN.json OUT.qds"), ExitUsage);
+        return Fail(QStringLiteral("usage: zentor-cli pack IN.json OUT.qds [--strict]"), ExitUsage);
     QFile in(args.positional[0]);
     if (!IsRegularFile(args.positional[0]) || !in.open(QIODevice::ReadOnly))
         return Fail(QStringLiteral("cannot open %1").arg(args.positional[0]));
@@ -76,6 +103,10 @@ int runPack(const Args& args, const ProcessContext& ctx) {
     const QString error = ApplyProjectJson(json.object(), *doc);
     if (!error.isEmpty())
         return Fail(QStringLiteral("%1: %2").arg(args.positional[0], error));
+    const int lossy = warnUnstorable(json.object(), QString());
+    if (lossy > 0 && args.has(QStringLiteral("--strict")))
+        return Fail(
+            QStringLiteral("%1 field(s) cannot be stored; nothing written (--strict)").arg(lossy));
     if (!SaveScript(*doc, args.positional[1]))
         return Fail(QStringLiteral("cannot write %1").arg(args.positional[1]));
     return ExitOk;
@@ -86,8 +117,8 @@ const Register regInfo({QStringLiteral("info"),
                         QStringLiteral("info FILE [--as qds|qdv|exe]"),
                         {QStringLiteral("--as")},
                         runInfo});
-const Register
-    regPack({QStringLiteral("pack"), QStringLiteral("pack IN.json OUT.qds"), {}, runPack});
+const Register regPack(
+    {QStringLiteral("pack"), QStringLiteral("pack IN.json OUT.qds [--strict]"), {}, runPack});
 
 } // namespace
 
@@ -102,6 +133,16 @@ std::unique_ptr<Document> OpenProject(const QString& path, const ProcessContext&
         return nullptr;
     }
     return doc;
+}
+
+bool CheckFrameDrawable(const QString& project, const Document& doc) {
+    if (!FrameSize(doc).isEmpty())
+        return true;
+    Fail(QStringLiteral("%1: the frame size %2 x %3 cannot be drawn")
+             .arg(project)
+             .arg(doc.Header.FrameWidth)
+             .arg(doc.Header.FrameHeight));
+    return false;
 }
 
 } // namespace zentor::cli

@@ -46,11 +46,8 @@ int runRender(const Args& args, const ProcessContext& ctx) {
         Warn(QStringLiteral("%1 is damaged or cut short; what it lacks is drawn as the default "
                             "document has it")
                  .arg(project));
-    if (FrameSize(*doc).isEmpty())
-        return Fail(QStringLiteral("%1: the frame size %2 x %3 cannot be drawn")
-                        .arg(project)
-                        .arg(doc->Header.FrameWidth)
-                        .arg(doc->Header.FrameHeight));
+    if (!CheckFrameDrawable(project, *doc))
+        return ExitError;
 
     const ResImages res = ResImages::load();
     PictureCache cache;

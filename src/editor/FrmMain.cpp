@@ -1,6 +1,8 @@
 #include "editor/FrmMain.h"
 
+#include "VideoExportRun.h"
 #include "edit/WorkspaceLayout.h"
+#include "editor/EditActions.h"
 #include "editor/PropertyPanes.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
@@ -150,6 +152,16 @@ void FrmMain::buildMenus() {
           {9, nullptr, {}},
           {10, "&Exit", [this] { close(); }}});
 
+    // Added after the original items so their numbered names stay as they were.
+    QAction* video = new QAction(QStringLiteral("Export &Video..."), mainFile_);
+    video->setObjectName(QStringLiteral("SubFileVideo"));
+    mainFile_->insertAction(findChild<QAction*>(QStringLiteral("SubFile6")), video);
+    connect(video, &QAction::triggered, this, [this] {
+        panes_->commitPendingEdit();
+        editor_.commitInPlaceEdit();
+        ExportVideoInteractive(this, doc_, res_);
+    });
+
     mainEdit_ = menuBar()->addMenu(QStringLiteral("&Edit"));
     mainEdit_->setObjectName(QStringLiteral("MainEdit"));
     fill(mainEdit_, QStringLiteral("SubEdit"),
@@ -163,6 +175,7 @@ void FrmMain::buildMenus() {
           {8, "Move To &Bottom", cmd(CmdMoveToBottom)},
           {9, nullptr, {}},
           {10, "Setting", cmd(CmdSettings)}});
+    AddUndoActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
 
     mainAbout_ = menuBar()->addMenu(QStringLiteral("&About"));
     mainAbout_->setObjectName(QStringLiteral("MainAbout"));
@@ -310,6 +323,7 @@ void FrmMain::buildFrame() {
     picWorkSpace_->setObjectName(QStringLiteral("PicWorkSpace"));
     picWorkSpace_->setGeometry(0, 0, 800, 600);
 
+    AddWorkspaceKeys(picWorkSpace_, editor_);
     labAdd_ = new SelectionFrame(picWorkSpace_);
     labAdd_->setObjectName(QStringLiteral("LabAdd"));
     labAdd_->hide();

@@ -5,6 +5,7 @@
 #include "edit/PropertyEdit.h"
 #include "editor/FrmSet.h"
 #include "editor/FrmTextColor.h"
+#include "editor/props/CodePageNote.h"
 #include "editor/props/CommitEdits.h"
 #include "editor/props/PaneControls.h"
 #include "model/TabMap.h"
@@ -68,6 +69,12 @@ void PropertyPanes::Impl::build() {
     BuildTextPane(panes[KindText], c);
     BuildProfilePane(panes[KindProfile], c);
     BuildShowPane(panes[KindSlideShow], c);
+    for (QWidget* pane : panes) {
+        for (auto* box : pane->findChildren<CommitLineEdit*>())
+            AttachCodePageNote(box);
+        for (auto* box : pane->findChildren<CommitTextEdit*>())
+            AttachCodePageNote(box);
+    }
 
     wireText(KindTab, c.TxtTabName, PropertyText::TabName);
     wireFile(c.CmdTabIcon, KindTab, FileChoice::TabIcon);

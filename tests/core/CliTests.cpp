@@ -103,3 +103,44 @@ TEST(Cli, ErrorsAndDamagedFiles) {
     EXPECT_EQ(field(parse(out), "Profile", "FirstName").toString(), "Quorvix");
     EXPECT_FALSE(QFile::exists(box.path("o.qds")));
 }
+
+TEST(Cli, PackNamesFieldsTheCodePageCannotHold) {
+    Sandbox box;
+    QByteArray json;
+    ASSERT_EQ(RunCli({"new", box.path("a.qds")}), 0);
+    ASSERT_EQ(RunCli({"info", box.path("a.qds")}, &json), 0);
+    QJsonObject project = parse(json);
+    QJsonObject profile = project.value("Profile").toObject();
+    profile.insert("FirstName", "Ελένη");
+    project.insert("Profile", profile);
+    ASSERT_TRUE(WriteAll(box.path("in.json"), QJsonDocument(project).toJson()));
+
+    const struct {
+        const char* codePage; // ZENTOR_CODEPAGE, empty: chosen from the language
+        const char* language;
+        bool strict;
+        int status;
+        const char* stderrHas;
+    } cases[] = {
+        {"1252", "C", false, 0, "Profile.FirstName: Code page windows-1252 cannot store \"Ελένη\""},
+        {"1252", "C", true, 1, "nothing written"},
+        {"1253", "C", true, 0, ""},
+        {"", "el_GR.UTF-8", true, 0, ""},
+        {"", "de_DE.UTF-8", true, 1, "Profile.FirstName"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.codePage) + " " + c.language);
+        qputenv("ZENTOR_CODEPAGE", c.codePage);
+        qputenv("LC_ALL", c.language);
+        QFile::remove(box.path("out.qds"));
+        QStringList args{"pack", box.path("in.json"), box.path("out.qds")};
+        if (c.strict)
+            args << "--strict";
+        QByteArray err;
+        EXPECT_EQ(RunCli(args, nullptr, &err), c.status);
+        EXPECT_TRUE(*c.stderrHas ? err.contains(c.stderrHas) : err.isEmpty()) << err.toStdString();
+        EXPECT_EQ(QFile::exists(box.path("out.qds")), c.status == 0);
+    }
+    qunsetenv("ZENTOR_CODEPAGE");
+    qunsetenv("LC_ALL");
+}

@@ -2,6 +2,7 @@
 
 #include "io/FileUtil.h"
 #include "model/CodePage.h"
+#include "model/CodePageCheck.h"
 #include "model/DefaultDocument.h"
 #include "model/TabMap.h"
 
@@ -205,4 +206,42 @@ TEST(CodePage, FieldsAreCutAtCharacterBoundaries) {
     EXPECT_EQ(cyrillic->encode(QStringLiteral("Жук"), 10), QByteArray("\xC6\xF3\xEA"));
     EXPECT_EQ(cyrillic->decode("\xC6\xF3\xEA"), QStringLiteral("Жук"));
     EXPECT_FALSE(CodePage::create(QStringLiteral("no-such-page")));
+}
+
+TEST(CodePage, ChosenForTheLanguageAsWindowsDoes) {
+    const struct {
+        const char* locale;
+        const char* page;
+    } cases[] = {
+        {"en_US", "1252"}, {"de_DE", "1252"}, {"pl_PL", "1250"}, {"sr_Latn_RS", "1250"},
+        {"ru_RU", "1251"}, {"sr_RS", "1251"}, {"el_GR", "1253"}, {"tr_TR", "1254"},
+        {"he_IL", "1255"}, {"ar_EG", "1256"}, {"lt_LT", "1257"}, {"vi_VN", "1258"},
+        {"th_TH", "874"},  {"ja_JP", "932"},  {"zh_CN", "936"},  {"ko_KR", "949"},
+        {"zh_TW", "950"},  {"zh_HK", "950"},
+    };
+    for (const auto& c : cases) {
+        const QString page = WindowsCodePageFor(QLocale(QString::fromLatin1(c.locale)));
+        EXPECT_EQ(page, QLatin1String(c.page)) << c.locale;
+        EXPECT_TRUE(CodePage::create(page)) << c.page << " is not available";
+    }
+}
+
+TEST(CodePage, ReportsWhatItCannotHold) {
+    const struct {
+        const char* page;
+        const char* text;
+        const char* missing;
+    } cases[] = {
+        {"1252", "Łucja Żółć?", "ŁŻłć"}, // ó is Western, '?' is stored as it is
+        {"1250", "Łucja Żółć", ""},
+        {"1252", "Ελένη", "Ελένη"},
+        {"1251", "Ж😀Ж", "😀"},
+    };
+    for (const auto& c : cases) {
+        auto page = CodePage::create(QLatin1String(c.page));
+        ASSERT_TRUE(page);
+        EXPECT_EQ(UnstorableCharacters(*page, QString::fromUtf8(c.text)),
+                  QString::fromUtf8(c.missing))
+            << c.page << " " << c.text;
+    }
 }

@@ -169,7 +169,7 @@ TEST(ShowModelTest, InputMovesTheShow) {
         {"Space resumes where it paused",
          1,
          {key(1000, ShowKey::Space), key(11000, ShowKey::Space)},
-         12999,
+         11999,
          17,
          true},
         {"resumed, the slot ends late by the pause",

@@ -468,5 +468,32 @@ TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
     EXPECT_TRUE(QFileInfo::exists(path));
 }
 
+TEST_F(WindowTest, WorkspaceKeysNudgeAndStepAndTheEditMenuUndoesByName) {
+    const int slot = insertText({100, 100, 60, 20});
+    ws->setFocus();
+    QTest::keyClick(ws, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(ws, Qt::Key_Down);
+    EXPECT_EQ(record(slot), QRect(110, 101, 60, 20));
+
+    QMenu* edit = find<QMenu>("MainEdit");
+    QMetaObject::invokeMethod(edit, "aboutToShow");
+    EXPECT_EQ(find<QAction>("EditUndo")->text(), QStringLiteral("&Undo Move text %1").arg(slot));
+    QMetaObject::invokeMethod(edit, "aboutToHide");
+    QTest::keyClick(ws, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(record(slot), QRect(100, 100, 60, 20));
+    QTest::keyClick(ws, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(record(slot), QRect(110, 101, 60, 20));
+    QTest::keyClick(ws, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(ws, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(record(slot), QRect(110, 101, 60, 20));
+
+    const int row = state().CurrentRow;
+    QTest::keyClick(ws, Qt::Key_Tab);
+    EXPECT_EQ(state().CurrentRow, (row + 1) % int(state().Rows.size()));
+    QTest::keyClick(ws, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(state().CurrentRow, row);
+    EXPECT_EQ(state().SelectedIndex, slot);
+}
+
 } // namespace
 } // namespace zentor::test

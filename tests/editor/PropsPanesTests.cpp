@@ -5,6 +5,7 @@
 #include "edit/Editor.h"
 #include "editor/PropertyPanes.h"
 #include "editor/props/CommitEdits.h"
+#include "model/CodePage.h"
 #include "model/TabMap.h"
 
 #include <gtest/gtest.h>
@@ -366,4 +367,28 @@ TEST(PropsPanesOwner, AMainWindowParentIsTheView) {
     emit name->committed();
     EXPECT_EQ(window.strip.value(GetTabIndex(6)), "Languages");
     EXPECT_EQ(doc->Tabs[6].Name.text(), "Languages");
+}
+
+TEST_F(PropsPanes, BoxesSayWhichCharactersTheCodePageLoses) {
+    CodePage::overrideActive(CodePage::create(QStringLiteral("1252")));
+    const struct {
+        int pane;
+        const char* box;
+    } boxes[] = {{3, "TxtFirstName"}, {2, "TxtWord"}};
+    for (const auto& b : boxes) {
+        SCOPED_TRACE(b.box);
+        stack->setCurrentIndex(b.pane);
+        QWidget* box = control(b.pane, b.box);
+        auto* note = control<QLabel>(b.pane, (std::string(b.box) + "CodePageNote").c_str());
+        // Typed keys are ASCII only in the test driver; the note follows any change.
+        if (auto* line = qobject_cast<QLineEdit*>(box))
+            line->setText(QStringLiteral("Ελένη Łucja"));
+        else
+            qobject_cast<QPlainTextEdit*>(box)->setPlainText(QStringLiteral("Ελένη Łucja"));
+        EXPECT_TRUE(note->isVisible());
+        EXPECT_EQ(note->text(), "Code page windows-1252 cannot store \"ΕλένηŁ\"; saved as \"?\".");
+        type(box, QStringLiteral("Lena"));
+        EXPECT_FALSE(note->isVisible());
+    }
+    CodePage::overrideActive(nullptr);
 }

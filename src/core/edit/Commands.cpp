@@ -23,6 +23,7 @@ QString SupportPage() {
 
 void Editor::menuCommand(int index) {
     commitInPlaceEdit();
+    recordPending();
     CommonModth(index);
 }
 
@@ -67,18 +68,29 @@ void Editor::CommonModth(int index) {
         if (st_.CurrentTab < 1 || st_.CurrentTab > 7)
             return;
         insert(index == CmdInsertImage ? KindImage : KindText);
+        recordChange(StepName(QStringLiteral("Insert"), st_.SelectedKind, st_.SelectedIndex));
         break;
-    case CmdDelete:
+    case CmdDelete: {
+        const QString name =
+            StepName(QStringLiteral("Delete"), st_.SelectedKind, st_.SelectedIndex);
         DelObject(doc_, st_.SelectedKind, st_.SelectedIndex, st_.CurrentTab, prompter_, ctx_);
+        recordChange(name);
         // Reloaded whatever the answer.
         LoadTab(st_.CurrentTab);
         break;
+    }
     case CmdMoveToTop:
-    case CmdMoveToBottom:
+    case CmdMoveToBottom: {
+        const QString name =
+            StepName(index == CmdMoveToTop ? QStringLiteral("Bring") : QStringLiteral("Send"),
+                     st_.SelectedKind, st_.SelectedIndex) +
+            (index == CmdMoveToTop ? QStringLiteral(" to top") : QStringLiteral(" to bottom"));
         st_.SelectedIndex = ZOrderArr(doc_, st_.SelectedKind, st_.SelectedIndex, st_.CurrentTab,
                                       index == CmdMoveToTop);
+        recordChange(name);
         RefreshTab(st_.CurrentTab);
         break;
+    }
     case CmdPreviousTab:
     case CmdNextTab:
         step(index == CmdNextTab);
@@ -127,6 +139,7 @@ void Editor::newOrOpen(int index) {
     applyStripCaptions();
     LoadTab(st_.CurrentTab);
     doc_.Dirty = false;
+    resetHistory();
 }
 
 bool Editor::saveForQuestion() {
@@ -154,11 +167,13 @@ bool Editor::save(bool alwaysAsk) {
             return false;
         }
     }
+    recordPending();
     if (!SaveScript(doc_, path)) {
         view_.setPointer(EditorView::PointerTarget::Window, EditorView::Pointer::Normal);
         prompter_.warn(SaveTitle, QStringLiteral("Can't save file : ") + path);
     } else {
         lastSaveWritten_ = true;
+        undo_.setClean();
     }
     return true;
 }

@@ -35,6 +35,7 @@ void Editor::formLoad() {
     applyStripCaptions();
     LoadTab(st_.CurrentTab);
     doc_.Dirty = false;
+    resetHistory();
 }
 
 bool Editor::queryUnload() {
@@ -175,6 +176,7 @@ void Editor::commitInPlaceEdit() {
     const int i = st_.SelectedIndex;
     if (i >= 0 && i <= MaxTexts)
         doc_.Texts[i].Text = *text;
+    recordChange(StepName(QStringLiteral("Edit"), KindText, i));
     view_.closeInPlaceEditor(*text);
     RefreshTab(st_.CurrentTab);
 }

@@ -3,6 +3,7 @@
 #include "edit/EditorState.h"
 #include "edit/EditorView.h"
 #include "edit/Prompter.h"
+#include "edit/UndoStack.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
 
@@ -96,6 +97,24 @@ public:
     void handleMouseMove(int handle, IntPoint p);
     void handleMouseUp(int handle);
 
+    // --- Undo ---
+    const UndoStack& undoStack() const { return undo_; }
+    // What changed since the last step becomes one step called `name`; a change with the
+    // merge key of the previous one extends it.
+    void recordChange(const QString& name, const QString& mergeKey = {});
+    // Changes made outside the editor's commands (the property panes, the settings) become
+    // a step named after the selection.
+    void recordPending();
+    void undo();
+    void redo();
+
+    // --- Keyboard ---
+    // Moves the selected picture or text by (dx, dy) with a drag's clamps; a run of nudges
+    // of one object is one step. False when nothing selected can move.
+    bool nudge(int dx, int dy);
+    // Selects the next (previous) row of the page's object list, wrapping around.
+    void selectNextObject(bool forward);
+
     // --- In-place text editor ---
     void inPlaceTextChanged() { doc_.Dirty = true; }
     // Stores an open in-place edit into the selected text and closes the editor.
@@ -117,6 +136,9 @@ private:
     // A move of the selection frame starts: the pressed control shows the move pointer.
     void beginMove(EditorView::PointerTarget target, IntPoint p);
     void moveFrameTo(IntPoint p);
+    void travel(bool back); // undo or redo
+    void resetHistory();
+    void showRestored();
 
     Document& doc_;
     const ProcessContext& ctx_;
@@ -126,6 +148,8 @@ private:
     Generator generate_;
     Exporter export_;
     bool lastSaveWritten_ = false; // the last Save command wrote the file
+    UndoStack undo_;
+    DocumentRecords base_; // the records as the last step left them
 };
 
 // The support page opened by the About menu's "&Help".

@@ -13,6 +13,8 @@ bool ContentTab(int tab) {
 
 void Editor::workspaceMouseDown(MouseButton b, IntPoint p) {
     commitInPlaceEdit();
+    recordPending();
+    undo_.breakMerge();
     const int row = SelectByMouse(doc_, st_.ObjectMap, st_.CurrentTab, p.x, p.y);
     if (row >= 0)
         selectRow(row);
@@ -56,6 +58,7 @@ void Editor::workspaceMouseUp(MouseButton b) {
         st_.WorkspaceMoving = false;
         view_.setPointer(EditorView::PointerTarget::Workspace, EditorView::Pointer::Normal);
         RefreshData();
+        recordChange(StepName(QStringLiteral("Move"), st_.SelectedKind, st_.SelectedIndex));
         RefreshTab(st_.CurrentTab);
     } else if (b == MouseButton::Right && ContentTab(st_.CurrentTab)) {
         view_.showEditMenu();
@@ -89,6 +92,7 @@ void Editor::workspaceDoubleClick() {
 void Editor::frameMouseDown(MouseButton b, IntPoint p) {
     if (b == MouseButton::Right)
         return;
+    recordPending();
     // No new hit test: the selected object moves even where another lies on top of it.
     st_.FrameMoving = true;
     beginMove(EditorView::PointerTarget::Frame, p);
@@ -108,6 +112,7 @@ void Editor::frameMouseUp(MouseButton b) {
     st_.FrameMoving = false;
     view_.setPointer(EditorView::PointerTarget::Frame, EditorView::Pointer::Normal);
     RefreshData();
+    recordChange(StepName(QStringLiteral("Move"), st_.SelectedKind, st_.SelectedIndex));
     RefreshTab(st_.CurrentTab);
 }
 
@@ -123,6 +128,7 @@ void Editor::frameDoubleClick() {
 }
 
 void Editor::handleMouseDown(int, IntPoint p) {
+    recordPending();
     st_.Sizing = true;
     st_.SizeRect = st_.Frame;
     st_.CursorDown = p;
@@ -140,6 +146,7 @@ void Editor::handleMouseMove(int handle, IntPoint p) {
 void Editor::handleMouseUp(int) {
     st_.Sizing = false;
     RefreshData();
+    recordChange(StepName(QStringLiteral("Resize"), st_.SelectedKind, st_.SelectedIndex));
     RefreshTab(st_.CurrentTab);
 }
 

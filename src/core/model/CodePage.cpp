@@ -1,4 +1,5 @@
 #include "model/CodePage.h"
+#include "model/CodePageCheck.h"
 
 #include <iconv.h>
 
@@ -127,10 +128,101 @@ private:
     QByteArray name_;
 };
 
+// Which ANSI code page Windows gives each language; everything else is Western (1252).
+QString windowsCodePage(QLocale::Language language, QLocale::Script script,
+                        QLocale::Territory territory) {
+    switch (language) {
+    case QLocale::Czech:
+    case QLocale::Polish:
+    case QLocale::Slovak:
+    case QLocale::Hungarian:
+    case QLocale::Slovenian:
+    case QLocale::Croatian:
+    case QLocale::Romanian:
+    case QLocale::Albanian:
+        return QStringLiteral("1250");
+    case QLocale::Serbian:
+    case QLocale::Bosnian:
+        return script == QLocale::CyrillicScript ? QStringLiteral("1251") : QStringLiteral("1250");
+    case QLocale::Russian:
+    case QLocale::Ukrainian:
+    case QLocale::Belarusian:
+    case QLocale::Bulgarian:
+    case QLocale::Macedonian:
+    case QLocale::Kazakh:
+    case QLocale::Kyrgyz:
+    case QLocale::Tatar:
+    case QLocale::Mongolian:
+    case QLocale::Bashkir:
+    case QLocale::Tajik:
+        return QStringLiteral("1251");
+    case QLocale::Azerbaijani:
+    case QLocale::Uzbek:
+        return script == QLocale::CyrillicScript ? QStringLiteral("1251") : QStringLiteral("1254");
+    case QLocale::Greek:
+        return QStringLiteral("1253");
+    case QLocale::Turkish:
+        return QStringLiteral("1254");
+    case QLocale::Hebrew:
+    case QLocale::Yiddish:
+        return QStringLiteral("1255");
+    case QLocale::Arabic:
+    case QLocale::Persian:
+    case QLocale::Urdu:
+        return QStringLiteral("1256");
+    case QLocale::Estonian:
+    case QLocale::Latvian:
+    case QLocale::Lithuanian:
+        return QStringLiteral("1257");
+    case QLocale::Vietnamese:
+        return QStringLiteral("1258");
+    case QLocale::Thai:
+        return QStringLiteral("874");
+    case QLocale::Japanese:
+        return QStringLiteral("932");
+    case QLocale::Korean:
+        return QStringLiteral("949");
+    case QLocale::Chinese:
+        if (script == QLocale::TraditionalHanScript || territory == QLocale::Taiwan ||
+            territory == QLocale::HongKong || territory == QLocale::Macao)
+            return script == QLocale::SimplifiedHanScript ? QStringLiteral("936")
+                                                          : QStringLiteral("950");
+        return QStringLiteral("936");
+    default:
+        return QStringLiteral("1252");
+    }
+}
+
 QMutex gMutex;
 std::unique_ptr<CodePage> gOverride;
 
 } // namespace
+
+QString UnstorableCharacters(const CodePage& page, QStringView text) {
+    QString missing;
+    for (qsizetype i = 0; i < text.size();) {
+        const qsizetype len = (text[i].isHighSurrogate() && i + 1 < text.size()) ? 2 : 1;
+        const QStringView ch = text.mid(i, len);
+        i += len;
+        if (ch == u"?" || missing.contains(ch))
+            continue;
+        // A character the page lacks comes back as '?', or not at all from iconv.
+        if (page.decode(page.encode(ch, 8)) != ch)
+            missing += ch;
+    }
+    return missing;
+}
+
+QString UnstorableNote(const CodePage& page, QStringView text) {
+    const QString lost = UnstorableCharacters(page, text);
+    return lost.isEmpty() ? QString()
+                          : QStringLiteral("Code page %1 cannot store \"%2\"; saved as \"?\".")
+                                .arg(page.name(), lost);
+}
+
+QString WindowsCodePageFor(const QLocale& locale) {
+    return windowsCodePage(locale.language(), locale.script(), locale.territory());
+}
 
 std::unique_ptr<CodePage> CodePage::create(const QString& name) {
     const QString n = name.trimmed();
@@ -148,7 +240,9 @@ std::unique_ptr<CodePage> CodePage::create(const QString& name) {
 
 const CodePage& CodePage::active() {
     static const std::unique_ptr<CodePage> fromEnvironment = [] {
-        auto page = create(qEnvironmentVariable("ZENTOR_CODEPAGE"));
+        const QString chosen = qEnvironmentVariable("ZENTOR_CODEPAGE");
+        auto page =
+            create(chosen.trimmed().isEmpty() ? WindowsCodePageFor(QLocale::system()) : chosen);
         return page ? std::move(page) : create(QString());
     }();
     QMutexLocker lock(&gMutex);

@@ -9,7 +9,8 @@
 namespace zentor {
 
 // The single-byte (or multi-byte) code page that document strings are stored in.
-// Windows-1252 unless ZENTOR_CODEPAGE names another one (e.g. "1250", "CP932", "ISO-8859-2").
+// The ANSI code page Windows picks for the user's language (see CodePageCheck.h) unless
+// ZENTOR_CODEPAGE names another one (e.g. "1250", "CP932", "ISO-8859-2").
 class CodePage {
 public:
     virtual ~CodePage() = default;

@@ -1,0 +1,14 @@
+#pragma once
+
+class QWidget;
+
+namespace zentor {
+
+struct Document;
+class ResImages;
+
+// File > Export Video: asks where to write, records the show with a cancellable progress
+// dialog and says how it went.
+void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res);
+
+} // namespace zentor

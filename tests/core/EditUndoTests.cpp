@@ -1,0 +1,187 @@
+#include "EditFakeView.h"
+#include "io/ScriptFile.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace zentor;
+using namespace zentor::test;
+using Answer = Prompter::Answer;
+
+namespace {
+
+QByteArray Bytes(const Document& d) {
+    Document copy = d;
+    return SerializeScript(copy);
+}
+
+// Page 1 with image 1 at (100, 100, 50, 50) selected and text 1 beside it, all recorded.
+struct UndoFixture : EditorFixture {
+    UndoFixture() {
+        showTab(1);
+        editor.CommonModth(CmdInsertImage);
+        ImageElement& img = doc->Images[1];
+        img.Left = 100, img.Top = 100, img.Width = 50, img.Height = 50;
+        editor.CommonModth(CmdInsertText);
+        TextElement& txt = doc->Texts[1];
+        txt.Left = 300, txt.Top = 300, txt.Width = 60, txt.Height = 20;
+        editor.recordPending();
+        editor.workspaceMouseDown(MouseButton::Left, {110, 110});
+        editor.workspaceMouseUp(MouseButton::Left);
+    }
+};
+
+TEST(EditUndo, EveryKindOfChangeIsOneNamedStepThatUndoesAndRedoesToTheSameBytes) {
+    const struct {
+        const char* name;
+        std::function<void(UndoFixture&)> change;
+    } cases[] = {
+        {"Insert image 2", [](UndoFixture& f) { f.editor.menuCommand(CmdInsertImage); }},
+        {"Insert text 2", [](UndoFixture& f) { f.editor.menuCommand(CmdInsertText); }},
+        {"Delete image 1",
+         [](UndoFixture& f) {
+             f.prompter.expectQuestion("Delete Image", "Are you sure to delete image 1?",
+                                       Answer::Yes);
+             f.editor.menuCommand(CmdDelete);
+         }},
+        {"Move image 1",
+         [](UndoFixture& f) {
+             f.editor.frameMouseDown(MouseButton::Left, {110, 110});
+             f.editor.frameMouseMove({140, 130});
+             f.editor.frameMouseUp(MouseButton::Left);
+         }},
+        {"Resize image 1",
+         [](UndoFixture& f) {
+             f.editor.handleMouseDown(7, {150, 150});
+             f.editor.handleMouseMove(7, {170, 160});
+             f.editor.handleMouseUp(7);
+         }},
+        {"Edit text 1",
+         [](UndoFixture& f) {
+             f.editor.workspaceMouseDown(MouseButton::Left, {310, 305});
+             f.editor.workspaceMouseUp(MouseButton::Left);
+             f.editor.frameDoubleClick();
+             f.view.inPlace = QStringLiteral("Hello");
+             f.editor.commitInPlaceEdit();
+         }},
+        {"Edit image 1", // a property pane writes the record itself
+         [](UndoFixture& f) {
+             f.doc->Images[1].Name = "renamed";
+             f.editor.recordPending();
+         }},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        UndoFixture f;
+        f.doc->Dirty = false;
+        const QByteArray before = Bytes(*f.doc);
+        c.change(f);
+        const QByteArray after = Bytes(*f.doc);
+        ASSERT_NE(before, after);
+        EXPECT_EQ(f.editor.undoStack().undoName(), c.name);
+        f.editor.undo();
+        EXPECT_EQ(Bytes(*f.doc), before);
+        EXPECT_EQ(f.editor.undoStack().redoName(), c.name);
+        f.editor.redo();
+        EXPECT_EQ(Bytes(*f.doc), after);
+        EXPECT_TRUE(f.doc->Dirty);
+        EXPECT_PROMPTS_DONE(f.prompter);
+    }
+}
+
+TEST(EditUndo, DirtyFollowsTheSavedPointAndNewClearsTheHistory) {
+    UndoFixture f;
+    Sandbox out;
+    const QString path = out.path("cv.qds");
+    f.prompter.expectFile(true, "Save QDV Script File", "*.qds|*.qds|*.*|*.*", path);
+    f.editor.menuCommand(CmdSave);
+    ASSERT_FALSE(f.doc->Dirty);
+    f.editor.menuCommand(CmdInsertImage);
+    EXPECT_TRUE(f.doc->Dirty);
+    f.editor.undo();
+    EXPECT_FALSE(f.doc->Dirty); // back at the saved bytes
+    f.editor.undo();
+    EXPECT_TRUE(f.doc->Dirty);
+    // A new change after undoing past the save: the saved state cannot come back.
+    f.editor.menuCommand(CmdInsertImage);
+    f.editor.undo();
+    EXPECT_TRUE(f.doc->Dirty);
+
+    f.prompter.expectYesNoCancel("New File", "Do you want to save the work?", Answer::No);
+    f.editor.menuCommand(CmdNew);
+    EXPECT_FALSE(f.editor.undoStack().canUndo());
+    EXPECT_FALSE(f.editor.undoStack().canRedo());
+    EXPECT_PROMPTS_DONE(f.prompter);
+}
+
+TEST(EditUndo, ChangesWithOneMergeKeyAreOneStep) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    doc->Images[1].TabNo = doc->Images[2].TabNo = 1; // in use, so saved
+    UndoStack s;
+    const QByteArray start = Bytes(*doc);
+    for (int i = 1; i <= 3; ++i) {
+        const DocumentRecords before = RecordsOf(*doc);
+        doc->Images[1].Left = i;
+        s.push("Move image 1", before, *doc, "nudge 1 1");
+    }
+    DocumentRecords before = RecordsOf(*doc);
+    doc->Images[2].Left = 7;
+    s.push("Move image 2", before, *doc, "nudge 1 2");
+    before = RecordsOf(*doc);
+    EXPECT_FALSE(s.push("Nothing", before, *doc)); // unchanged bytes make no step
+
+    EXPECT_EQ(s.undoName(), "Move image 2");
+    s.undo(*doc);
+    EXPECT_EQ(s.undoName(), "Move image 1");
+    s.undo(*doc);
+    EXPECT_FALSE(s.canUndo());
+    EXPECT_EQ(Bytes(*doc), start);
+}
+
+} // namespace
+
+namespace {
+
+TEST(EditKeys, NudgesMoveTheSelectionWithTheDragClampsAndARunIsOneStep) {
+    const struct {
+        IntPoint step; // per key press
+        int presses;
+        IntRect after;
+    } cases[] = {
+        {{1, 0}, 3, {103, 100, 50, 50}},
+        {{0, -10}, 2, {100, 80, 50, 50}},
+        {{-10, 0}, 20, {0, 100, 50, 50}},   // stops on the left border
+        {{0, 10}, 100, {100, 550, 50, 50}}, // and on the bottom one
+    };
+    for (const auto& c : cases) {
+        UndoFixture f;
+        const QByteArray before = Bytes(*f.doc);
+        for (int i = 0; i < c.presses; ++i)
+            EXPECT_TRUE(f.editor.nudge(c.step.x, c.step.y));
+        const ImageElement& e = f.doc->Images[1];
+        EXPECT_EQ((IntRect{e.Left, e.Top, e.Width, e.Height}), c.after);
+        EXPECT_EQ(f.view.frame, c.after);
+        EXPECT_TRUE(f.doc->Dirty);
+        EXPECT_EQ(f.editor.undoStack().undoName(), "Move image 1");
+        f.editor.undo();
+        EXPECT_EQ(Bytes(*f.doc), before);
+    }
+}
+
+TEST(EditKeys, TabStepsThroughThePageObjectsAndNothingElseNudges) {
+    UndoFixture f;
+    ASSERT_EQ(f.view.rows.size(), 3); // the page, image 1, text 1
+    ASSERT_EQ(f.view.currentRow, 1);
+    f.editor.selectNextObject(true);
+    EXPECT_EQ(f.view.currentRow, 2);
+    f.editor.selectNextObject(true);
+    EXPECT_EQ(f.view.currentRow, 0); // wraps to the page itself
+    EXPECT_FALSE(f.editor.nudge(1, 0));
+    f.editor.selectNextObject(false);
+    EXPECT_EQ(f.view.currentRow, 2);
+    EXPECT_EQ(f.editor.state().SelectedKind, KindText);
+}
+
+} // namespace

@@ -1,0 +1,198 @@
+#include "TestSupport.h"
+
+#include "export/VideoAudio.h"
+#include "export/VideoExport.h"
+#include "io/ScriptFile.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace zentor;
+
+namespace {
+
+constexpr int KeepMs = 400;
+
+// One second of a 440 Hz tone as 16-bit mono PCM in a WAV file.
+QByteArray ToneWav() {
+    const int rate = 8000;
+    QByteArray pcm;
+    for (int i = 0; i < rate; ++i) {
+        const auto v = int16_t(8000 * std::sin(i * 2 * M_PI * 440 / rate));
+        pcm.append(char(v & 0xFF)).append(char((v >> 8) & 0xFF));
+    }
+    auto u32 = [](uint32_t v) { return QByteArray(reinterpret_cast<const char*>(&v), 4); };
+    auto u16 = [](uint16_t v) { return QByteArray(reinterpret_cast<const char*>(&v), 2); };
+    return "RIFF" + u32(36 + uint32_t(pcm.size())) + "WAVEfmt " + u32(16) + u16(1) + u16(1) +
+           u32(rate) + u32(rate * 2) + u16(2) + u16(16) + "data" + u32(uint32_t(pcm.size())) + pcm;
+}
+
+QString Project(test::Sandbox& box, const QString& music) {
+    auto doc = box.newDocument();
+    doc->Header.KeepOnTime = KeepMs;
+    doc->Header.BackMusic = music;
+    doc->Header.FrameWidth = 321; // odd, to be rounded down
+    doc->Header.FrameHeight = 240;
+    doc->Profile.FirstName = "Quorvix";
+    doc->Profile.LastName = "Dellamere";
+    test::PlaceImage(*doc, 1, 1, {0, 0, 321, 240}, "red.png"); // page 1 red, page 2 white
+    const QString path = box.path("v.qds");
+    EXPECT_TRUE(test::Solid(8, 8, qRgb(220, 30, 30)).save(box.path("red.png")));
+    EXPECT_TRUE(test::WriteAll(box.path("tone.wav"), ToneWav()));
+    EXPECT_TRUE(test::WriteAll(box.path("notes.txt"), "not sound at all"));
+    EXPECT_TRUE(SaveScript(*doc, path));
+    return path;
+}
+
+QJsonObject Probe(const QString& file) {
+    QByteArray out;
+    EXPECT_EQ(
+        test::RunProcess(
+            "ffprobe", {"-v", "error", "-show_streams", "-show_format", "-of", "json", file}, &out),
+        0);
+    return QJsonDocument::fromJson(out).object();
+}
+
+// The video's picture at `ms`, as the ffmpeg program decodes it. Its -ss drops a held frame
+// that began before the time asked for, so the video is first made constant-rate.
+QImage FrameAt(const QString& video, int ms, const QString& png) {
+    EXPECT_EQ(test::RunProcess("ffmpeg", {"-v", "error", "-y", "-i", video, "-vf",
+                                          QStringLiteral("fps=30,trim=start=%1").arg(ms / 1000.0),
+                                          "-frames:v", "1", png}),
+              0);
+    return QImage(png).convertToFormat(QImage::Format_RGB32);
+}
+
+double MeanDifference(const QImage& a, const QImage& b) {
+    const QImage sb = b.convertToFormat(QImage::Format_RGB32)
+                          .scaled(a.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    double sum = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = sb.pixel(x, y);
+            sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) +
+                   std::abs(qBlue(p) - qBlue(q));
+        }
+    return sum / (3.0 * 255.0 * a.width() * a.height());
+}
+
+} // namespace
+
+TEST(VideoCli, WritesThePlayableShow) {
+    test::Sandbox box;
+    const struct {
+        QString music;
+        QStringList options;
+        QSize size;
+        bool audio;
+        bool warns;
+    } cases[] = {
+        {"", {}, {320, 240}, false, false},
+        {"tone.wav", {"--height", "120"}, {160, 120}, true, false},
+        {"tone.wav", {"--fps", "12"}, {320, 240}, true, false},
+        {"notes.txt", {}, {320, 240}, false, true},
+        {"missing.mp3", {}, {320, 240}, false, true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(qPrintable(c.music + " " + c.options.join(' ')));
+        const QString project = Project(box, c.music);
+        const QString out = box.path("show.mp4");
+        QByteArray err;
+        ASSERT_EQ(test::RunCli(QStringList{"video", project, out} + c.options, nullptr, &err), 0)
+            << err.constData();
+        EXPECT_EQ(err.contains("warning"), c.warns) << err.constData();
+        const QJsonObject probe = Probe(out);
+        const QJsonArray streams = probe["streams"].toArray();
+        ASSERT_EQ(streams.size(), c.audio ? 2 : 1);
+        const QJsonObject video = streams[0].toObject();
+        EXPECT_EQ(video["codec_name"].toString(), "h264");
+        EXPECT_EQ(video["pix_fmt"].toString(), "yuv420p");
+        EXPECT_EQ(QSize(video["width"].toInt(), video["height"].toInt()), c.size);
+        const QJsonObject format = probe["format"].toObject();
+        EXPECT_NEAR(format["duration"].toString().toDouble(), 9 * KeepMs / 1000.0, 0.1);
+        EXPECT_EQ(format["tags"].toObject()["title"].toString(), "Quorvix Dellamere");
+        if (c.audio) {
+            const QJsonObject audio = streams[1].toObject();
+            EXPECT_EQ(audio["codec_name"].toString(), "aac");
+            EXPECT_EQ(audio["channels"].toInt(), 2);
+        }
+    }
+}
+
+TEST(VideoCli, HoldsShowThePages) {
+    test::Sandbox box;
+    const QString project = Project(box, "");
+    const QString out = box.path("show.mp4");
+    ASSERT_EQ(test::RunCli({"video", project, out}), 0);
+    for (int page : {1, 2}) {
+        const QString png = box.path(QStringLiteral("page%1.png").arg(page));
+        ASSERT_EQ(test::RunCli({"render", project, QString::number(page), png}), 0);
+        const QImage frame = FrameAt(out, (page - 1) * KeepMs + KeepMs / 2, box.path("f.png"));
+        ASSERT_FALSE(frame.isNull());
+        EXPECT_LT(MeanDifference(frame, QImage(png)), 0.04) << page;
+    }
+}
+
+TEST(VideoCli, FailuresLeaveNoFile) {
+    test::Sandbox box;
+    const QString project = Project(box, "");
+    QByteArray bytes = test::ReadAll(project);
+    ASSERT_TRUE(test::WriteAll(box.path("cut.qds"), bytes.left(bytes.size() / 3)));
+    const QString out = box.path("o.mp4");
+    const struct {
+        QStringList args;
+        int status;
+    } cases[] = {
+        {{box.path("none.qds"), out}, 1},
+        {{box.path("cut.qds"), out}, 1},
+        {{project, box.path("no/such/folder/o.mp4")}, 1},
+        {{project, box.path("o.avi")}, 2},
+        {{project, out, "--fps", "0"}, 2},
+        {{project, out, "--height", "tall"}, 2},
+    };
+    for (const auto& c : cases) {
+        QByteArray err;
+        EXPECT_EQ(test::RunCli(QStringList{"video"} + c.args, nullptr, &err), c.status)
+            << qPrintable(c.args.join(' '));
+        EXPECT_FALSE(err.isEmpty());
+        EXPECT_FALSE(QFile::exists(out));
+    }
+    QDir dir(box.dir.path());
+    EXPECT_TRUE(dir.entryList({"*.part"}, QDir::Hidden | QDir::Files).isEmpty());
+}
+
+TEST(VideoAudio, SoundtrackLoopsOrStopsAndFadesOut) {
+    StereoTrack music;
+    music.left.assign(VideoSampleRate, 1.0f);
+    music.right.assign(VideoSampleRate, -1.0f);
+    const size_t length = 3 * VideoSampleRate;
+    const struct {
+        bool loop;
+        size_t at;
+        float left;
+    } cases[] = {
+        {true, 10, 0.5f},                            // volume applies
+        {true, VideoSampleRate + 10, 0.5f},          // loops
+        {false, VideoSampleRate + 10, 0.0f},         // played once
+        {true, length - VideoSampleRate / 2, 0.25f}, // half way through the fade
+        {true, length - 1, 0.0f},
+    };
+    for (const auto& c : cases) {
+        const StereoTrack out = ShowSoundtrack(music, length, 0.5, c.loop);
+        ASSERT_EQ(out.size(), length);
+        EXPECT_NEAR(out.left[c.at], c.left, 0.001) << c.at;
+        EXPECT_NEAR(out.right[c.at], -c.left, 0.001) << c.at;
+    }
+}
+
+TEST(VideoExport, SizeKeepsAspectAndEvenSides) {
+    EXPECT_EQ(VideoSize({801, 601}, 0), QSize(800, 600));
+    EXPECT_EQ(VideoSize({800, 600}, 1080), QSize(1440, 1080));
+    EXPECT_EQ(VideoSize({1000, 700}, 101), QSize(144, 100));
+}
