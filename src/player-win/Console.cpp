@@ -8,8 +8,8 @@ void attachParentConsole() {
     AttachConsole(ATTACH_PARENT_PROCESS);
 }
 
-void printLine(const std::wstring& text) {
-    HANDLE out = GetStdHandle(STD_OUTPUT_HANDLE);
+void printLine(const std::wstring& text, bool error) {
+    HANDLE out = GetStdHandle(error ? STD_ERROR_HANDLE : STD_OUTPUT_HANDLE);
     if (!out || out == INVALID_HANDLE_VALUE)
         return;
     const std::wstring line = text + L"\r\n";

@@ -2,24 +2,38 @@
 
 #include <shlwapi.h>
 
+#include <vector>
+
 namespace winplayer {
 
-std::unique_ptr<Gdiplus::Bitmap> decodePicture(const std::vector<unsigned char>& bytes) {
-    IStream* stream = SHCreateMemStream(bytes.data(), UINT(bytes.size()));
+std::unique_ptr<Gdiplus::Bitmap> decodePicture(const void* bytes, size_t size) {
+    if (size == 0 || size > UINT_MAX)
+        return nullptr;
+    IStream* stream = SHCreateMemStream(static_cast<const BYTE*>(bytes), UINT(size));
     if (!stream)
         return nullptr;
     std::unique_ptr<Gdiplus::Bitmap> decoded(Gdiplus::Bitmap::FromStream(stream));
     // The decoder may read lazily from the stream, so keep a copy that owns its pixels.
     std::unique_ptr<Gdiplus::Bitmap> copy;
-    if (decoded && decoded->GetLastStatus() == Gdiplus::Ok) {
+    if (decoded && decoded->GetLastStatus() == Gdiplus::Ok && decoded->GetWidth() > 0) {
         copy = std::make_unique<Gdiplus::Bitmap>(decoded->GetWidth(), decoded->GetHeight(),
-                                                 PixelFormat32bppARGB);
+                                                 PixelFormat32bppPARGB);
         Gdiplus::Graphics g(copy.get());
+        g.SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
         g.DrawImage(decoded.get(), 0, 0, decoded->GetWidth(), decoded->GetHeight());
     }
     decoded.reset();
     stream->Release();
     return copy;
+}
+
+std::unique_ptr<Gdiplus::Bitmap> builtInPicture(int id) {
+    HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(10)); // RCDATA
+    HGLOBAL loaded = found ? LoadResource(nullptr, found) : nullptr;
+    const void* bytes = loaded ? LockResource(loaded) : nullptr;
+    if (!bytes)
+        return nullptr;
+    return decodePicture(bytes, SizeofResource(nullptr, found));
 }
 
 static bool pngEncoder(CLSID& clsid) {
@@ -44,13 +58,25 @@ bool savePng(Gdiplus::Bitmap& bitmap, const std::wstring& path) {
     return pngEncoder(clsid) && bitmap.Save(path.c_str(), &clsid, nullptr) == Gdiplus::Ok;
 }
 
-std::unique_ptr<Gdiplus::FontFamily> fontFamily(const std::wstring& wanted) {
-    for (const wchar_t* name : {wanted.c_str(), L"Segoe UI", L"Tahoma", L"Arial"}) {
-        auto family = std::make_unique<Gdiplus::FontFamily>(name);
-        if (family->GetLastStatus() == Gdiplus::Ok)
-            return family;
+void drawStretched(Gdiplus::Graphics& g, Gdiplus::Bitmap* picture, const Gdiplus::Rect& to,
+                   float alpha) {
+    if (!picture || alpha <= 0.0f)
+        return;
+    g.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
+    g.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
+    // Edge pixels are repeated, not blended with the transparent outside.
+    Gdiplus::ImageAttributes attributes;
+    attributes.SetWrapMode(Gdiplus::WrapModeTileFlipXY);
+    if (alpha < 1.0f) {
+        Gdiplus::ColorMatrix m = {{{1, 0, 0, 0, 0},
+                                   {0, 1, 0, 0, 0},
+                                   {0, 0, 1, 0, 0},
+                                   {0, 0, 0, alpha, 0},
+                                   {0, 0, 0, 0, 1}}};
+        attributes.SetColorMatrix(&m);
     }
-    return std::unique_ptr<Gdiplus::FontFamily>(Gdiplus::FontFamily::GenericSansSerif()->Clone());
+    g.DrawImage(picture, to, 0, 0, INT(picture->GetWidth()), INT(picture->GetHeight()),
+                Gdiplus::UnitPixel, &attributes);
 }
 
 } // namespace winplayer
