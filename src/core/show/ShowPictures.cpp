@@ -6,6 +6,7 @@
 #include "render/PageCompositor.h"
 #include "render/PictureCache.h"
 #include "render/PictureLoader.h"
+#include "show/ShowFrame.h"
 
 #include <QFont>
 #include <QFontMetrics>
@@ -15,8 +16,6 @@
 
 namespace zentor {
 namespace {
-
-constexpr QSize FallbackFrame(800, 600);
 
 QString Decoded(const std::string& bytes) {
     return CodePage::active().decode(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
@@ -49,27 +48,24 @@ quint64 CacheKey(int picture, int hover, QSize size) {
            quint64(size.height());
 }
 
-// A frame a damaged header cannot make enormous.
-QSize SaneFrame(const ScriptHeader& h) {
-    const QSize s(h.FrameWidth, h.FrameHeight);
-    return s.width() >= 1 && s.height() >= 1 && s.width() <= MaxFrameSide &&
-                   s.height() <= MaxFrameSide
-               ? s
-               : FallbackFrame;
+// The frame a damaged header cannot make enormous.
+QSize SaneFrame(const show::ShowHeader& h) {
+    const show::FrameSize f = show::FrameOf(h);
+    return QSize(f.Width, f.Height);
 }
 
 } // namespace
 
 ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
                            const QByteArray& defaultBackground)
-    : res_(res), frame_(SaneFrame(package.Header)), defaultBackground_(defaultBackground) {
+    : res_(res), frame_(SaneFrame(package.Info.Header)), defaultBackground_(defaultBackground) {
     const uint32_t c = uint32_t(package.Header.BackColor); // 0x00BBGGRR
     backColor_ = qRgb(int(c & 0xFF), int((c >> 8) & 0xFF), int((c >> 16) & 0xFF));
     for (int entry = 0; entry < Package::EntryCount; ++entry)
         blobs_[size_t(entry)] = package.blob(entry);
     for (int tab = 1; tab <= Package::TabNameCount; ++tab)
         tabNames_[size_t(tab)] = package.TabNames[size_t(tab - 1)].text();
-    tabNames_[8] = QStringLiteral("Slide Show"); // the package does not carry tab 8's name
+    tabNames_[8] = QString::fromLatin1(show::SlideShowTabName);
     person_ = package.Profile.FirstName.text().trimmed() + QLatin1Char(' ') +
               package.Profile.LastName.text().trimmed();
     contacts_ = show::LayoutHome(package.Info.Profile, frame_.width(), frame_.height());
