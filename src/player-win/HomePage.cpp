@@ -3,6 +3,8 @@
 #include "BuiltIn.h"
 #include "Text.h"
 
+#include "show/ShowFrame.h"
+
 namespace show = zentor::show;
 
 namespace winplayer {
@@ -29,7 +31,8 @@ Gdiplus::Rect rectOf(const show::IconRect& r) {
 } // namespace
 
 HomePage::HomePage(const show::PackageFile& package, int width, int height)
-    : width_(width), height_(height), ring_(show::RingRects(width, height)) {
+    : width_(width), height_(height), ring_(show::RingRects(width, height)),
+      contacts_(show::LayoutHome(package.Info.Profile, width, height)) {
     background_ = packageOr(package, show::Package::BackPictureEntry, BuiltInBackground);
     border_ = builtInPicture(BuiltInBorder);
     userIcon_ = packageOr(package, show::Package::UserIconEntry, BuiltInLogo);
@@ -43,7 +46,7 @@ HomePage::HomePage(const show::PackageFile& package, int width, int height)
     for (int tab = 1; tab <= show::Package::TabNameCount; ++tab)
         tabNames_[size_t(tab)] = fromAnsi(package.Info.TabNames[size_t(tab - 1)]);
     // The slide show's name is not carried; it keeps the name every new document gives it.
-    tabNames_[8] = L"Slide Show";
+    tabNames_[8] = fromAnsi(show::SlideShowTabName);
 }
 
 std::wstring HomePage::captionFor(int hoverIcon) const {
@@ -65,6 +68,20 @@ void HomePage::paint(Gdiplus::Graphics& g, int hoverIcon) const {
     drawStretched(g, border_.get(),
                   Gdiplus::Rect(half(width_ - 144), half(height_ - 144), 144, 144));
     drawStretched(g, userIcon_.get(), rectOf(ring_[0]));
+
+    TextStyle line;
+    line.PixelSize = float(contacts_.FontPixelSize);
+    line.Shadow = Gdiplus::Color(160, 0, 0, 0);
+    line.ShadowInPlace = false;
+    line.Middle = true;
+    line.Ellipsis = true;
+    for (const show::HomeLine& contact : contacts_.Lines) {
+        line.Underline = !contact.Link.empty(); // links look like links
+        const Gdiplus::Rect r = rectOf(contact.Rect);
+        drawShadowedText(g, fromAnsi(contact.Text),
+                         Gdiplus::RectF(float(r.X), float(r.Y), float(r.Width), float(r.Height)),
+                         line);
+    }
 }
 
 } // namespace winplayer

@@ -123,7 +123,7 @@ LRESULT PlayerWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_SETCURSOR:
         if (LOWORD(lParam) == HTCLIENT) {
-            SetCursor(LoadCursor(nullptr, hover_ >= 1 ? IDC_HAND : IDC_ARROW));
+            SetCursor(LoadCursor(nullptr, hover_ >= 1 || link_ >= 0 ? IDC_HAND : IDC_ARROW));
             return TRUE;
         }
         break;
@@ -183,7 +183,7 @@ bool PlayerWindow::homeShown() const {
     return model_.at(now()).Picture == show::HomePicture;
 }
 
-// Where the frame lies in the window: scaled to fit, centred, on black.
+// Where the frame lies in the window: scaled to fit, centred, on the back colour.
 Gdiplus::Rect PlayerWindow::fitted() const {
     RECT area;
     GetClientRect(window_, &area);
@@ -195,11 +195,14 @@ Gdiplus::Rect PlayerWindow::fitted() const {
 
 void PlayerWindow::pointerAt(int x, int y) {
     int icon = -1;
-    if (homeShown()) {
-        const Gdiplus::Rect f = fitted();
-        if (f.Width > 0 && f.Height > 0)
-            icon = show::IconAt(scene_.home().ring(), (x - f.X) * scene_.width() / f.Width,
-                                (y - f.Y) * scene_.height() / f.Height);
+    link_ = -1;
+    const Gdiplus::Rect f = fitted();
+    if (homeShown() && f.Width > 0 && f.Height > 0) {
+        // Window pixels to the frame's, where the ring and the contact lines are laid out.
+        const int fx = int(int64_t(x - f.X) * scene_.width() / f.Width);
+        const int fy = int(int64_t(y - f.Y) * scene_.height() / f.Height);
+        icon = show::IconAt(scene_.home().ring(), fx, fy);
+        link_ = show::LinkAt(scene_.home().contacts(), fx, fy);
     }
     if (icon != hover_) {
         hover_ = icon;
@@ -209,6 +212,12 @@ void PlayerWindow::pointerAt(int x, int y) {
 
 void PlayerWindow::click(int x, int y) {
     pointerAt(x, y);
+    if (link_ >= 0) {
+        // The mail program or the browser, whichever the recipient has chosen.
+        const std::wstring target = fromAnsi(scene_.home().contacts().Lines[size_t(link_)].Link);
+        ShellExecuteW(window_, L"open", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+        return;
+    }
     if (hover_ >= 1 && model_.clickIcon(hover_, now()) == show::ShowReaction::Redraw) {
         hover_ = -1;
         changed();
@@ -233,8 +242,8 @@ void PlayerWindow::paint() {
     HGDIOBJ old = SelectObject(memory, buffer);
     {
         Gdiplus::Graphics g(memory);
-        Gdiplus::SolidBrush black(Gdiplus::Color(255, 0, 0, 0));
-        g.FillRectangle(&black, 0, 0, INT(area.right), INT(area.bottom));
+        Gdiplus::SolidBrush back(scene_.backColor());
+        g.FillRectangle(&back, 0, 0, INT(area.right), INT(area.bottom));
         g.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBilinear);
         g.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
         g.DrawImage(frame_.get(), fitted());

@@ -35,6 +35,7 @@ private:
     std::unique_ptr<Gdiplus::Bitmap> frame_;
     HWND window_ = nullptr;
     int hover_ = -1; // the ring icon under the pointer, on the home page
+    int link_ = -1;  // the contact line under it that links somewhere
     int64_t frequency_ = 1;
 };
 

@@ -1,23 +1,11 @@
 #include "Scene.h"
 
+#include "show/ShowFrame.h"
+
 namespace show = zentor::show;
 
 namespace winplayer {
 namespace {
-
-constexpr int MaxFrameSide = 16384;
-
-// The header's frame; a damaged one gives way to the first page's size.
-Gdiplus::Size frameSizeOf(const show::PackageFile& package,
-                          const std::unique_ptr<Gdiplus::Bitmap>& firstPage) {
-    const show::ShowHeader& h = package.Info.Header;
-    if (h.FrameWidth >= 1 && h.FrameHeight >= 1 && h.FrameWidth <= MaxFrameSide &&
-        h.FrameHeight <= MaxFrameSide)
-        return Gdiplus::Size(h.FrameWidth, h.FrameHeight);
-    if (firstPage)
-        return Gdiplus::Size(INT(firstPage->GetWidth()), INT(firstPage->GetHeight()));
-    return Gdiplus::Size(800, 600);
-}
 
 std::unique_ptr<Gdiplus::Bitmap> decodeEntry(const show::PackageFile& package, int entry) {
     const show::BlobRange r = package.Info.range(entry);
@@ -36,8 +24,11 @@ decodePages(const show::PackageFile& package) {
 } // namespace
 
 Scene::Scene(const show::PackageFile& package)
-    : pages_(decodePages(package)), width_(frameSizeOf(package, pages_[0]).Width),
-      height_(frameSizeOf(package, pages_[0]).Height), home_(package, width_, height_) {}
+    : pages_(decodePages(package)), width_(show::FrameOf(package.Info.Header).Width),
+      height_(show::FrameOf(package.Info.Header).Height), home_(package, width_, height_) {
+    const uint32_t c = uint32_t(package.Info.Header.BackColor); // 0x00BBGGRR
+    backColor_ = Gdiplus::Color(255, BYTE(c), BYTE(c >> 8), BYTE(c >> 16));
+}
 
 Gdiplus::Bitmap* Scene::picture(int picture, int hoverIcon) {
     if (picture != show::HomePicture) {
@@ -55,8 +46,9 @@ Gdiplus::Bitmap* Scene::picture(int picture, int hoverIcon) {
 
 void Scene::paint(Gdiplus::Graphics& g, const show::ScreenState& state, int hoverIcon) {
     const Gdiplus::Rect all(0, 0, width_, height_);
-    Gdiplus::SolidBrush black(Gdiplus::Color(255, 0, 0, 0));
-    g.FillRectangle(&black, all);
+    // A page that cannot be decoded shows as the back colour.
+    Gdiplus::SolidBrush back(backColor_);
+    g.FillRectangle(&back, all);
     if (state.Alpha < 1.0)
         drawStretched(g, picture(state.Previous, hoverIcon), all);
     drawStretched(g, picture(state.Picture, hoverIcon), all, float(state.Alpha));

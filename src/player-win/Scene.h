@@ -17,6 +17,8 @@ public:
     int width() const { return width_; }
     int height() const { return height_; }
     const HomePage& home() const { return home_; }
+    // Around the frame when the window has another shape.
+    Gdiplus::Color backColor() const { return backColor_; }
 
     // Paints `state` at the frame's size: the new picture faded in over the previous one.
     void paint(Gdiplus::Graphics& g, const zentor::show::ScreenState& state, int hoverIcon);
@@ -28,6 +30,7 @@ private:
     std::array<std::unique_ptr<Gdiplus::Bitmap>, zentor::show::Package::PageCount> pages_;
     int width_, height_;
     HomePage home_;
+    Gdiplus::Color backColor_;
     // The home page painted once per caption, since it is drawn again on every fade step.
     std::unique_ptr<Gdiplus::Bitmap> homeCache_;
     int homeCacheHover_ = -2;

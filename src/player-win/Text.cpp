@@ -34,21 +34,20 @@ void drawShadowedText(Gdiplus::Graphics& g, const std::wstring& text, const Gdip
                              Gdiplus::UnitPixel);
     Gdiplus::StringFormat format(Gdiplus::StringFormat::GenericTypographic());
     format.SetAlignment(Gdiplus::StringAlignmentCenter);
-    format.SetLineAlignment(Gdiplus::StringAlignmentNear);
+    format.SetLineAlignment(style.Middle ? Gdiplus::StringAlignmentCenter
+                                         : Gdiplus::StringAlignmentNear);
     if (style.Ellipsis) {
         format.SetFormatFlags(format.GetFormatFlags() | Gdiplus::StringFormatFlagsNoWrap);
         format.SetTrimming(Gdiplus::StringTrimmingEllipsisCharacter);
     }
     g.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
-    const bool black = style.Color.GetValue() == 0xFF000000u;
-    const Gdiplus::SolidBrush shadow(black ? Gdiplus::Color(255, 255, 255, 255)
-                                           : Gdiplus::Color(255, 0, 0, 0));
+    const Gdiplus::SolidBrush shadow(style.Shadow);
     const Gdiplus::SolidBrush ink(style.Color);
     Gdiplus::RectF shifted = box;
     shifted.Offset(1.0f, 1.0f);
-    // The shadow is drawn shifted, then once more in place, which gives the text a dark rim.
     g.DrawString(text.c_str(), INT(text.size()), &font, shifted, &format, &shadow);
-    g.DrawString(text.c_str(), INT(text.size()), &font, box, &format, &shadow);
+    if (style.ShadowInPlace)
+        g.DrawString(text.c_str(), INT(text.size()), &font, box, &format, &shadow);
     g.DrawString(text.c_str(), INT(text.size()), &font, box, &format, &ink);
 }
 

@@ -18,12 +18,14 @@ struct TextStyle {
     std::wstring Font = L"Arial";
     float PixelSize = 16.0f;
     Gdiplus::Color Color = Gdiplus::Color(255, 255, 255, 255);
-    bool Ellipsis = false; // one line, cut with "…" when it does not fit
+    Gdiplus::Color Shadow = Gdiplus::Color(255, 0, 0, 0);
+    bool ShadowInPlace = true; // the shadow drawn once more unshifted gives a dark rim
+    bool Middle = false;       // centred vertically rather than at the top
+    bool Ellipsis = false;     // one line, cut with "…" when it does not fit
     bool Underline = false;
 };
 
-// One line centred at the top of `box`, antialiased, over a one-pixel shadow that stands
-// out from its colour (white on black text, black on any other).
+// One line centred in `box`, antialiased, over its shadow shifted a pixel right and down.
 void drawShadowedText(Gdiplus::Graphics& g, const std::wstring& text, const Gdiplus::RectF& box,
                       const TextStyle& style);
 
