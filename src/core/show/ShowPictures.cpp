@@ -129,46 +129,39 @@ QImage ShowPictures::decodePage(int entry) const {
 }
 
 QImage ShowPictures::picture(int picture, int hoverIcon) const {
-    const bool home = picture < Package::FirstPageEntry || picture >= Package::EntryCount;
-    const int hover = home && hoverIcon >= 1 && hoverIcon <= 8 ? hoverIcon : 0;
-    const int key = home ? show::HomePicture : picture;
-    const quint64 k = CacheKey(key, hover, frame_);
-    {
-        std::lock_guard lock(mutex_);
-        const auto it = cache_.constFind(k);
-        if (it != cache_.constEnd())
-            return *it;
-    }
-    const QImage img = home ? paintHome(hover) : decodePage(picture);
-    std::lock_guard lock(mutex_);
-    cache_.insert(k, img);
-    return img;
+    return scaled(picture, hoverIcon, frame_);
 }
 
 QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
-    if (size == frame_)
-        return this->picture(picture, hoverIcon);
+    // Every home page picture is one, told apart only by the caption of the hovered icon.
     const bool home = picture < Package::FirstPageEntry || picture >= Package::EntryCount;
     const int hover = home && hoverIcon >= 1 && hoverIcon <= 8 ? hoverIcon : 0;
-    const quint64 k = CacheKey(home ? show::HomePicture : picture, hover, size);
+    if (home)
+        picture = show::HomePicture;
+    const quint64 key = CacheKey(picture, hover, size);
     {
         std::lock_guard lock(mutex_);
-        const auto it = cache_.constFind(k);
+        const auto it = cache_.constFind(key);
         if (it != cache_.constEnd())
             return *it;
     }
-    const QImage img =
-        this->picture(picture, hover).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage img = size == frame_
+                           ? (home ? paintHome(hover) : decodePage(picture))
+                           : scaled(picture, hover, frame_)
+                                 .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     std::lock_guard lock(mutex_);
-    // Scaled pictures are kept for one size at a time: the window's, or the video's.
-    const quint64 sizeMask = (quint64(1) << 36) - 1;
-    for (auto it = cache_.begin(); it != cache_.end();)
-        if ((it.key() & sizeMask) != (k & sizeMask) &&
-            (it.key() & sizeMask) != (CacheKey(0, 0, frame_) & sizeMask))
+    // Besides the frame-sized pictures, scaled ones are kept for one size at a time: the
+    // window's, or the video's.
+    const quint64 sizeBits = (quint64(1) << 36) - 1;
+    const quint64 frameSize = CacheKey(0, 0, frame_) & sizeBits;
+    for (auto it = cache_.begin(); it != cache_.end();) {
+        const quint64 itSize = it.key() & sizeBits;
+        if (itSize != (key & sizeBits) && itSize != frameSize)
             it = cache_.erase(it);
         else
             ++it;
-    cache_.insert(k, img);
+    }
+    cache_.insert(key, img);
     return img;
 }
 
