@@ -57,7 +57,7 @@ void BM_PlayerFirstFrame(benchmark::State& state) {
         ReadPackage(path, PackageForm::Detect, package, error);
         const ResImages res = ResImages::load();
         const ShowPictures pics(package, res, back);
-        const show::ShowModel model(show::ShowSettingsOf(package.Info.Header), 0);
+        const show::ShowModel model(show::ShowSettingsOf(package.Info.Header), 0, pics.showOrder());
         benchmark::DoNotOptimize(PaintShowFrame(pics, model.at(0), pics.frame()));
     }
 }

@@ -59,7 +59,8 @@ bool KeyOf(int qtKey, show::ShowKey& key) {
 
 PlayerWindow::PlayerWindow(const ShowPictures& pictures, const show::ShowSettings& settings,
                            std::function<MusicOut*()> startMusic)
-    : pictures_(pictures), model_(settings, 0), startMusic_(std::move(startMusic)),
+    : pictures_(pictures), model_(settings, 0, pictures.showOrder()),
+      startMusic_(std::move(startMusic)),
       ring_(show::RingRects(pictures.frame().width(), pictures.frame().height())) {
     clock_.start();
     tick_.setSingleShot(true);
@@ -103,6 +104,16 @@ void PlayerWindow::schedule() {
         return;
     }
     tick_.start(int(std::clamp<int64_t>(next - t, FadeTickMs, 24 * 3600 * 1000)));
+    if (next > t) {
+        // Decode and scale the coming picture while the current one holds, so that its
+        // fade starts smoothly.
+        const int upcoming = model_.at(next).Picture;
+        const QSize target = FrameTarget(pictures_.frame(), size()).size();
+        QTimer::singleShot(0, this, [this, upcoming, target] {
+            if (!target.isEmpty())
+                pictures_.scaled(upcoming, 0, target);
+        });
+    }
 }
 
 void PlayerWindow::react(show::ShowReaction r) {

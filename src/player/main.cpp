@@ -94,7 +94,7 @@ QByteArray DefaultBackground() {
 // Writes what the window shows `ms` after opening with no input, at the frame's size.
 int writeFrame(const ShowPictures& pictures, const PackageContents& package, qint64 ms,
                const QString& out) {
-    const show::ShowModel model(show::ShowSettingsOf(package.Info.Header), 0);
+    const show::ShowModel model(show::ShowSettingsOf(package.Info.Header), 0, pictures.showOrder());
     const QImage frame = PaintShowFrame(pictures, model.at(ms), pictures.frame());
     if (!frame.save(out, "PNG"))
         return fail(QStringLiteral("cannot write %1").arg(out));

@@ -41,6 +41,20 @@ QRgb PageColour(int page) {
     return qRgb(page * 30, 255 - page * 30, 128); // as FakePictures renders page `page`
 }
 
+// Pages of FakePictures' colours with a black mark in the top right corner, so that they
+// hold something; the pages in `empty` come out plain white.
+class MarkedPages : public FakePictures {
+public:
+    std::optional<QByteArray> renderPage(const Document& doc, int page) override {
+        QImage image(doc.Header.FrameWidth, doc.Header.FrameHeight, QImage::Format_RGB32);
+        image.fill(empty.contains(page) ? qRgb(255, 255, 255) : PageColour(page));
+        if (!empty.contains(page))
+            QPainter(&image).fillRect(image.width() - 8, 0, 8, 8, Qt::black);
+        return EncodeJpeg(image);
+    }
+    QList<int> empty;
+};
+
 // The frame with the contact block painted over in one colour, for comparing the rest.
 QImage WithoutContacts(QImage img, const show::HomeLayout& contacts) {
     const show::IconRect& b = contacts.Block;
@@ -74,7 +88,7 @@ protected:
 
     Sandbox box;
     std::unique_ptr<Document> doc = box.newDocument();
-    FakePictures pictures;
+    MarkedPages pictures;
     ScriptedPrompter prompter;
     ResumeGenerator gen{box.ctx, prompter, pictures};
     ResImages res = ResImages::load();
@@ -115,7 +129,7 @@ TEST_F(ShowFrameTest, FramesMixFadesAndKeepTheFrameShape) {
     } cases[] = {
         {{17, HomePicture, 1.0}, {800, 600}, {5, 5}, PageColour(7)},
         {{16, 17, 0.25}, {800, 600}, {400, 100}, mix(PageColour(7), PageColour(6), 0.25)},
-        {{16, 17, 0.75}, {800, 600}, {790, 590}, mix(PageColour(7), PageColour(6), 0.75)},
+        {{16, 17, 0.75}, {800, 600}, {10, 590}, mix(PageColour(7), PageColour(6), 0.75)},
         {{18, 11, 0.0}, {800, 600}, {10, 590}, PageColour(1)},
         // A wider surface: the frame in the middle, the back colour beside it.
         {{18, 18, 1.0}, {1000, 600}, {50, 300}, qRgb(0x11, 0x22, 0x33)},
@@ -178,10 +192,14 @@ TEST_F(ShowFrameTest, PlayerFrameShowsWhatTheWindowWould) {
     } cases[] = {{"home.exe", 0, 0, 0},
                  {"home.qdv", 0, 90000, 0},
                  {"run.exe", 1, 3000, 7},
-                 {"run.qdv", 1, 7000 + 6000, 6}};
+                 {"run.qdv", 1, 7000 + 6000, 6},
+                 // Page 6 holds nothing: the show passes from page 7 to page 5.
+                 {"skip.qdv", 1, 7000 + 6000, 5}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         doc->Header.ShowAsRun = c.asRun;
+        pictures.empty =
+            QString::fromLatin1(c.name).startsWith(QLatin1String("skip")) ? QList{6} : QList<int>{};
         doc->Header.KeepOnTime = 7000;
         const PackageContents package = generate(QLatin1String(c.name));
         const QString path = box.path(QLatin1String(c.name));

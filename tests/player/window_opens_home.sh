@@ -19,11 +19,12 @@ env -u DISPLAY -u WAYLAND_DISPLAY ./cv.run --frame 0 frame.png
 
 # Polls the screen until the window has painted (or about 20 s have gone).
 xvfb-run -a -s "-screen 0 800x600x24" bash -c '
-    ./cv.run 2>player.log &
+    QT_QPA_PLATFORM=xcb ./cv.run 2>player.log &
     player=$!
     status=1
     for _ in $(seq 80); do
         sleep 0.25
+        kill -0 $player 2>/dev/null || break
         import -window root shot.png 2>/dev/null || continue
         diff=$(compare -metric AE shot.png frame.png null: 2>&1 || true)
         echo "$diff" >diff.txt
@@ -31,4 +32,8 @@ xvfb-run -a -s "-screen 0 800x600x24" bash -c '
     done
     kill $player 2>/dev/null || true
     wait $player 2>/dev/null || true
-    exit $status' || { echo "the window never showed the home page; differing pixels: $(cat diff.txt)" >&2; exit 1; }
+    exit $status' || {
+    echo "the window never showed the home page; differing pixels: $(cat diff.txt 2>/dev/null)" >&2
+    cat player.log >&2
+    exit 1
+}

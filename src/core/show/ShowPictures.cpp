@@ -54,6 +54,17 @@ QSize SaneFrame(const show::ShowHeader& h) {
     return QSize(f.Width, f.Height);
 }
 
+// A page that holds nothing comes out one flat colour. A quarter of the size is decoded
+// (JPEG scales while decoding), enough to keep the smallest text. A page that cannot be
+// decoded is not called empty: the show keeps its place.
+bool IsEmptyPage(const QByteArray& blob, QSize frame) {
+    const QImage small = LoadPictureData(blob, (frame / 4).expandedTo(QSize(1, 1)))
+                             .convertToFormat(QImage::Format_RGB32);
+    return !small.isNull() &&
+           show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()), small.width(),
+                               small.height(), int(small.bytesPerLine() / 4));
+}
+
 } // namespace
 
 ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
@@ -69,6 +80,10 @@ ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
     person_ = package.Profile.FirstName.text().trimmed() + QLatin1Char(' ') +
               package.Profile.LastName.text().trimmed();
     contacts_ = show::LayoutHome(package.Info.Profile, frame_.width(), frame_.height());
+    std::array<bool, Package::EntryCount> empty{};
+    for (int entry : show::PageOrder)
+        empty[size_t(entry)] = IsEmptyPage(blobs_[size_t(entry)], frame_);
+    order_ = show::ShowOrder(empty);
 }
 
 QString ShowPictures::tabName(int icon) const {
@@ -110,46 +125,39 @@ QImage ShowPictures::decodePage(int entry) const {
 }
 
 QImage ShowPictures::picture(int picture, int hoverIcon) const {
-    const bool home = picture < Package::FirstPageEntry || picture >= Package::EntryCount;
-    const int hover = home && hoverIcon >= 1 && hoverIcon <= 8 ? hoverIcon : 0;
-    const int key = home ? show::HomePicture : picture;
-    const quint64 k = CacheKey(key, hover, frame_);
-    {
-        std::lock_guard lock(mutex_);
-        const auto it = cache_.constFind(k);
-        if (it != cache_.constEnd())
-            return *it;
-    }
-    const QImage img = home ? paintHome(hover) : decodePage(picture);
-    std::lock_guard lock(mutex_);
-    cache_.insert(k, img);
-    return img;
+    return scaled(picture, hoverIcon, frame_);
 }
 
 QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
-    if (size == frame_)
-        return this->picture(picture, hoverIcon);
+    // Every home page picture is one, told apart only by the caption of the hovered icon.
     const bool home = picture < Package::FirstPageEntry || picture >= Package::EntryCount;
     const int hover = home && hoverIcon >= 1 && hoverIcon <= 8 ? hoverIcon : 0;
-    const quint64 k = CacheKey(home ? show::HomePicture : picture, hover, size);
+    if (home)
+        picture = show::HomePicture;
+    const quint64 key = CacheKey(picture, hover, size);
     {
         std::lock_guard lock(mutex_);
-        const auto it = cache_.constFind(k);
+        const auto it = cache_.constFind(key);
         if (it != cache_.constEnd())
             return *it;
     }
-    const QImage img =
-        this->picture(picture, hover).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage img = size == frame_
+                           ? (home ? paintHome(hover) : decodePage(picture))
+                           : scaled(picture, hover, frame_)
+                                 .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     std::lock_guard lock(mutex_);
-    // Scaled pictures are kept for one size at a time: the window's, or the video's.
-    const quint64 sizeMask = (quint64(1) << 36) - 1;
-    for (auto it = cache_.begin(); it != cache_.end();)
-        if ((it.key() & sizeMask) != (k & sizeMask) &&
-            (it.key() & sizeMask) != (CacheKey(0, 0, frame_) & sizeMask))
+    // Besides the frame-sized pictures, scaled ones are kept for one size at a time: the
+    // window's, or the video's.
+    const quint64 sizeBits = (quint64(1) << 36) - 1;
+    const quint64 frameSize = CacheKey(0, 0, frame_) & sizeBits;
+    for (auto it = cache_.begin(); it != cache_.end();) {
+        const quint64 itSize = it.key() & sizeBits;
+        if (itSize != (key & sizeBits) && itSize != frameSize)
             it = cache_.erase(it);
         else
             ++it;
-    cache_.insert(k, img);
+    }
+    cache_.insert(key, img);
     return img;
 }
 

@@ -14,6 +14,7 @@
 
 #include <array>
 #include <mutex>
+#include <vector>
 
 namespace zentor {
 
@@ -32,6 +33,8 @@ public:
     // The colour around the frame when it is shown in a window of another shape.
     QRgb backColor() const { return backColor_; }
     const show::HomeLayout& contacts() const { return contacts_; }
+    // The pages the show runs through: those that hold something (see IsFlatPicture).
+    const std::vector<int>& showOrder() const { return order_; }
     // The name the home page shows while the pointer is over ring icon 1..8.
     QString tabName(int icon) const;
 
@@ -53,6 +56,7 @@ private:
     std::array<QString, 9> tabNames_;
     QString person_;
     show::HomeLayout contacts_;
+    std::vector<int> order_;
 
     mutable std::mutex mutex_;
     mutable QHash<quint64, QImage> cache_; // (picture, hover, size) -> image
