@@ -59,7 +59,8 @@ int64_t counterNow() {
 } // namespace
 
 PlayerWindow::PlayerWindow(const show::PackageFile& package, Scene& scene)
-    : package_(package), scene_(scene), model_(show::ShowSettingsOf(package.Info.Header), 0) {
+    : package_(package), scene_(scene),
+      model_(show::ShowSettingsOf(package.Info.Header), 0, scene.order()) {
     LARGE_INTEGER f;
     QueryPerformanceFrequency(&f);
     frequency_ = std::max<int64_t>(1, f.QuadPart);
@@ -79,7 +80,7 @@ int PlayerWindow::run(HINSTANCE instance, int show) {
     const show::ShowProfile& p = package_.Info.Profile;
     const std::wstring title = fromAnsi(p.FirstName) + L" " + fromAnsi(p.LastName);
     // The show's clock starts when the window opens.
-    model_ = show::ShowModel(show::ShowSettingsOf(package_.Info.Header), now());
+    model_ = show::ShowModel(show::ShowSettingsOf(package_.Info.Header), now(), scene_.order());
     window_ = CreateWindowExW(0, cls.lpszClassName, title.c_str(), WS_POPUP, 0, 0,
                               GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), nullptr,
                               nullptr, instance, this);

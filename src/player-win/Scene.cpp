@@ -2,6 +2,8 @@
 
 #include "show/ShowFrame.h"
 
+#include <algorithm>
+
 namespace show = zentor::show;
 
 namespace winplayer {
@@ -21,6 +23,28 @@ decodePages(const show::PackageFile& package) {
     return pages;
 }
 
+// A page that holds nothing is one flat colour; it is judged at a quarter of the frame,
+// where the JPEG's noise has been smoothed away.
+bool isFlat(Gdiplus::Bitmap* page, int frameWidth, int frameHeight) {
+    if (!page)
+        return false;
+    const int w = std::max(1, frameWidth / 4), h = std::max(1, frameHeight / 4);
+    Gdiplus::Bitmap small(w, h, PixelFormat32bppARGB);
+    {
+        Gdiplus::Graphics g(&small);
+        drawStretched(g, page, Gdiplus::Rect(0, 0, w, h));
+    }
+    Gdiplus::BitmapData data;
+    const Gdiplus::Rect all(0, 0, w, h);
+    if (small.LockBits(&all, Gdiplus::ImageLockModeRead, PixelFormat32bppARGB, &data) !=
+        Gdiplus::Ok)
+        return false;
+    const bool flat =
+        show::IsFlatPicture(static_cast<const uint32_t*>(data.Scan0), w, h, data.Stride / 4);
+    small.UnlockBits(&data);
+    return flat;
+}
+
 } // namespace
 
 Scene::Scene(const show::PackageFile& package)
@@ -28,6 +52,11 @@ Scene::Scene(const show::PackageFile& package)
       height_(show::FrameOf(package.Info.Header).Height), home_(package, width_, height_) {
     const uint32_t c = uint32_t(package.Info.Header.BackColor); // 0x00BBGGRR
     backColor_ = Gdiplus::Color(255, BYTE(c), BYTE(c >> 8), BYTE(c >> 16));
+    std::array<bool, show::Package::EntryCount> empty{};
+    for (int i = 0; i < show::Package::PageCount; ++i)
+        empty[size_t(show::Package::FirstPageEntry + i)] =
+            isFlat(pages_[size_t(i)].get(), width_, height_);
+    order_ = show::ShowOrder(empty);
 }
 
 Gdiplus::Bitmap* Scene::picture(int picture, int hoverIcon) {

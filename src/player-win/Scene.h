@@ -5,6 +5,7 @@
 
 #include <array>
 #include <memory>
+#include <vector>
 
 namespace winplayer {
 
@@ -17,6 +18,8 @@ public:
     int width() const { return width_; }
     int height() const { return height_; }
     const HomePage& home() const { return home_; }
+    // The pages the show runs through: those that hold something.
+    const std::vector<int>& order() const { return order_; }
     // Around the frame when the window has another shape.
     Gdiplus::Color backColor() const { return backColor_; }
 
@@ -31,6 +34,7 @@ private:
     int width_, height_;
     HomePage home_;
     Gdiplus::Color backColor_;
+    std::vector<int> order_;
     // The home page painted once per caption, since it is drawn again on every fade step.
     std::unique_ptr<Gdiplus::Bitmap> homeCache_;
     int homeCacheHover_ = -2;

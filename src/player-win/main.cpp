@@ -120,7 +120,7 @@ int exportTo(const show::PackageFile& package, std::wstring dir) {
 // What the window shows `ms` after opening with no input, at the frame's size.
 int frameTo(const show::PackageFile& package, int64_t ms, const std::wstring& out) {
     Scene scene(package);
-    const show::ShowModel model(show::ShowSettingsOf(package.Info.Header), 0);
+    const show::ShowModel model(show::ShowSettingsOf(package.Info.Header), 0, scene.order());
     const auto frame = scene.frame(model.at(ms), 0);
     if (!savePng(*frame, out))
         return fail(L"cannot write " + out);
