@@ -104,6 +104,16 @@ void PlayerWindow::schedule() {
         return;
     }
     tick_.start(int(std::clamp<int64_t>(next - t, FadeTickMs, 24 * 3600 * 1000)));
+    if (next > t) {
+        // Decode and scale the coming picture while the current one holds, so that its
+        // fade starts smoothly.
+        const int upcoming = model_.at(next).Picture;
+        const QSize target = FrameTarget(pictures_.frame(), size()).size();
+        QTimer::singleShot(0, this, [this, upcoming, target] {
+            if (!target.isEmpty())
+                pictures_.scaled(upcoming, 0, target);
+        });
+    }
 }
 
 void PlayerWindow::react(show::ShowReaction r) {

@@ -6,6 +6,7 @@
 #include "render/PageCompositor.h"
 #include "render/PictureCache.h"
 #include "render/PictureLoader.h"
+#include "show/ShowFrame.h"
 
 #include <QFont>
 #include <QFontMetrics>
@@ -15,8 +16,6 @@
 
 namespace zentor {
 namespace {
-
-constexpr QSize FallbackFrame(800, 600);
 
 QString Decoded(const std::string& bytes) {
     return CodePage::active().decode(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
@@ -49,13 +48,10 @@ quint64 CacheKey(int picture, int hover, QSize size) {
            quint64(size.height());
 }
 
-// A frame a damaged header cannot make enormous.
-QSize SaneFrame(const ScriptHeader& h) {
-    const QSize s(h.FrameWidth, h.FrameHeight);
-    return s.width() >= 1 && s.height() >= 1 && s.width() <= MaxFrameSide &&
-                   s.height() <= MaxFrameSide
-               ? s
-               : FallbackFrame;
+// The frame a damaged header cannot make enormous.
+QSize SaneFrame(const show::ShowHeader& h) {
+    const show::FrameSize f = show::FrameOf(h);
+    return QSize(f.Width, f.Height);
 }
 
 // A page that holds nothing comes out one flat colour. A quarter of the size is decoded
@@ -73,14 +69,14 @@ bool IsEmptyPage(const QByteArray& blob, QSize frame) {
 
 ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
                            const QByteArray& defaultBackground)
-    : res_(res), frame_(SaneFrame(package.Header)), defaultBackground_(defaultBackground) {
+    : res_(res), frame_(SaneFrame(package.Info.Header)), defaultBackground_(defaultBackground) {
     const uint32_t c = uint32_t(package.Header.BackColor); // 0x00BBGGRR
     backColor_ = qRgb(int(c & 0xFF), int((c >> 8) & 0xFF), int((c >> 16) & 0xFF));
     for (int entry = 0; entry < Package::EntryCount; ++entry)
         blobs_[size_t(entry)] = package.blob(entry);
     for (int tab = 1; tab <= Package::TabNameCount; ++tab)
         tabNames_[size_t(tab)] = package.TabNames[size_t(tab - 1)].text();
-    tabNames_[8] = QStringLiteral("Slide Show"); // the package does not carry tab 8's name
+    tabNames_[8] = QString::fromLatin1(show::SlideShowTabName);
     person_ = package.Profile.FirstName.text().trimmed() + QLatin1Char(' ') +
               package.Profile.LastName.text().trimmed();
     contacts_ = show::LayoutHome(package.Info.Profile, frame_.width(), frame_.height());
@@ -129,46 +125,39 @@ QImage ShowPictures::decodePage(int entry) const {
 }
 
 QImage ShowPictures::picture(int picture, int hoverIcon) const {
-    const bool home = picture < Package::FirstPageEntry || picture >= Package::EntryCount;
-    const int hover = home && hoverIcon >= 1 && hoverIcon <= 8 ? hoverIcon : 0;
-    const int key = home ? show::HomePicture : picture;
-    const quint64 k = CacheKey(key, hover, frame_);
-    {
-        std::lock_guard lock(mutex_);
-        const auto it = cache_.constFind(k);
-        if (it != cache_.constEnd())
-            return *it;
-    }
-    const QImage img = home ? paintHome(hover) : decodePage(picture);
-    std::lock_guard lock(mutex_);
-    cache_.insert(k, img);
-    return img;
+    return scaled(picture, hoverIcon, frame_);
 }
 
 QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
-    if (size == frame_)
-        return this->picture(picture, hoverIcon);
+    // Every home page picture is one, told apart only by the caption of the hovered icon.
     const bool home = picture < Package::FirstPageEntry || picture >= Package::EntryCount;
     const int hover = home && hoverIcon >= 1 && hoverIcon <= 8 ? hoverIcon : 0;
-    const quint64 k = CacheKey(home ? show::HomePicture : picture, hover, size);
+    if (home)
+        picture = show::HomePicture;
+    const quint64 key = CacheKey(picture, hover, size);
     {
         std::lock_guard lock(mutex_);
-        const auto it = cache_.constFind(k);
+        const auto it = cache_.constFind(key);
         if (it != cache_.constEnd())
             return *it;
     }
-    const QImage img =
-        this->picture(picture, hover).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage img = size == frame_
+                           ? (home ? paintHome(hover) : decodePage(picture))
+                           : scaled(picture, hover, frame_)
+                                 .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     std::lock_guard lock(mutex_);
-    // Scaled pictures are kept for one size at a time: the window's, or the video's.
-    const quint64 sizeMask = (quint64(1) << 36) - 1;
-    for (auto it = cache_.begin(); it != cache_.end();)
-        if ((it.key() & sizeMask) != (k & sizeMask) &&
-            (it.key() & sizeMask) != (CacheKey(0, 0, frame_) & sizeMask))
+    // Besides the frame-sized pictures, scaled ones are kept for one size at a time: the
+    // window's, or the video's.
+    const quint64 sizeBits = (quint64(1) << 36) - 1;
+    const quint64 frameSize = CacheKey(0, 0, frame_) & sizeBits;
+    for (auto it = cache_.begin(); it != cache_.end();) {
+        const quint64 itSize = it.key() & sizeBits;
+        if (itSize != (key & sizeBits) && itSize != frameSize)
             it = cache_.erase(it);
         else
             ++it;
-    cache_.insert(k, img);
+    }
+    cache_.insert(key, img);
     return img;
 }
 
