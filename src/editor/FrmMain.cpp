@@ -1,8 +1,10 @@
 #include "editor/FrmMain.h"
 
 #include "VideoExportRun.h"
+#include "edit/StatusText.h"
 #include "edit/WorkspaceLayout.h"
 #include "editor/EditActions.h"
+#include "editor/MediaActions.h"
 #include "editor/PropertyPanes.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
@@ -25,6 +27,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QProcess>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -80,16 +83,23 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_);
     generator_ = std::make_unique<ResumeGenerator>(ctx_, prompter_, *packagePictures_);
     generator_->setParallel(true);
-    editor_.setGenerator([this](bool selfRun) {
+    editor_.setGenerator([this](bool selfRun, const QString& path) {
 #ifdef ZENTOR_HAVE_PLAYER
         if (selfRun)
             generator_->setPlayer(PlayerStub());
 #endif
-        generator_->GenerateResume(doc_, selfRun);
+        const auto outcome = path.isEmpty() ? generator_->GenerateResume(doc_, selfRun)
+                                            : generator_->writePackage(doc_, path, selfRun);
+        return outcome == ResumeGenerator::Outcome::Written ? generator_->writtenPath() : QString();
     });
     editor_.setExporter([this](int command) {
+        QString written;
         RunExport(command == CmdExportPdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_,
-                  res_, ctx_);
+                  res_, ctx_, &written);
+        return written;
+    });
+    editor_.setLauncher([](const QString& program, const QStringList& args) {
+        return QProcess::startDetached(program, args);
     });
     wireWorkspace();
     // Room for an 800 x 600 page beside the tool pane, within the screen.
@@ -159,7 +169,9 @@ void FrmMain::buildMenus() {
     connect(video, &QAction::triggered, this, [this] {
         panes_->commitPendingEdit();
         editor_.commitInPlaceEdit();
-        ExportVideoInteractive(this, doc_, res_);
+        const QString written = ExportVideoInteractive(this, doc_, res_);
+        if (!written.isEmpty())
+            setStatusText(WrittenStatus(written));
     });
 
     mainEdit_ = menuBar()->addMenu(QStringLiteral("&Edit"));
@@ -175,6 +187,7 @@ void FrmMain::buildMenus() {
           {8, "Move To &Bottom", cmd(CmdMoveToBottom)},
           {9, nullptr, {}},
           {10, "Setting", cmd(CmdSettings)}});
+    AddMediaActions(mainFile_, [this](int index) { command(index); });
     AddUndoActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
 
     mainAbout_ = menuBar()->addMenu(QStringLiteral("&About"));
@@ -415,7 +428,6 @@ void FrmMain::wireWorkspace() {
 
 void FrmMain::formLoad() {
     editor_.formLoad();
-    setStatusText(QStringLiteral("Ready"));
 }
 
 void FrmMain::command(int index) {

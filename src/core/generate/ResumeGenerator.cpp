@@ -209,7 +209,10 @@ ResumeGenerator::Outcome ResumeGenerator::writePackage(Document& doc, const QStr
     ctx_.ensureWorkFolder();
     Writer writer(*this, doc, path);
     try {
-        return writer.run(selfRun) ? Outcome::Written : Outcome::Failed;
+        if (!writer.run(selfRun))
+            return Outcome::Failed;
+        writtenPath_ = path;
+        return Outcome::Written;
     } catch (const std::exception&) {
         // Out of memory while decoding or rendering ends like any other failure to write.
         prompter_.warn(WriteErrorTitle, QStringLiteral("Can't create file : ") + path);
