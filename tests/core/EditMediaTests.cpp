@@ -174,8 +174,9 @@ TEST(EditMedia, WrittenFilesAndPlayingAreToldInTheStatusBar) {
                                      "Can't start the player: " + QDir::toNativeSeparators(player));
         f.editor.CommonModth(c.command);
         EXPECT_PROMPTS_DONE(f.prompter);
-        if (c.status)
+        if (c.status) {
             EXPECT_EQ(f.view.status.toStdString(), c.status) << c.what;
+        }
         if (c.command == CmdPlay) {
             const QString package = f.box.ctx.WorkFolder + "resume.qdv";
             EXPECT_EQ(asked, QStringList{package}) << c.what;
