@@ -46,8 +46,9 @@ void Editor::collectMedia() {
     const CollectResult r = CollectMedia(doc_, folder);
     recordChange(CollectTitle);
     RefreshTab(st_.CurrentTab);
-    status_ = QStringLiteral("Collected %1 files into %2")
+    status_ = QStringLiteral("Collected %1 %2 into %3")
                   .arg(r.collected)
+                  .arg(r.collected == 1 ? QStringLiteral("file") : QStringLiteral("files"))
                   .arg(QDir::toNativeSeparators(folder));
     if (!r.missing.isEmpty())
         prompter_.warn(CollectTitle,
