@@ -83,17 +83,31 @@ TEST(EditMedia, OpeningAProjectWithMovedMediaAsksOnceAndLooksInAFolder) {
     }
 }
 
+TEST(EditMedia, AFoundFileWhosePathDoesNotFitTheFieldStaysMissing) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    PlaceImage(*doc, 1, 1, {}, box.path("gone/a.png"));
+    const QString deep = "found/" + QString(200, 'd') + "/" + QString(60, 'e') + "/a.png";
+    ASSERT_TRUE(Put(box, deep, "png"));
+    EXPECT_EQ(FindMissingMedia(*doc, box.path("found")), 0);
+    EXPECT_EQ(doc->Images[1].FileName.trimNull(), box.path("gone/a.png"));
+    EXPECT_FALSE(doc->Dirty);
+}
+
 TEST(EditMedia, CollectMediaCopiesBesideTheProjectAndPointsThere) {
     EditorFixture f;
     ASSERT_TRUE(Put(f.box, "one/a.png", "first"));
     ASSERT_TRUE(Put(f.box, "two/a.png", "second"));
     ASSERT_TRUE(Put(f.box, "three/a.png", "first"));
     ASSERT_TRUE(Put(f.box, "music/song.mp3", "mp3"));
+    ASSERT_TRUE(Put(f.box, "music/show.png", "icon"));
     f.doc->Header.BackMusic = f.box.path("music/song.mp3");
+    f.doc->Tabs[SlideShowTab].Icon = f.box.path("music/show.png");
     PlaceImage(*f.doc, 1, 1, {}, f.box.path("one/a.png"));
     PlaceImage(*f.doc, 2, 1, {}, f.box.path("two/a.png"));
     PlaceImage(*f.doc, 3, 1, {}, f.box.path("three/a.png")); // same bytes as one/a.png
     PlaceImage(*f.doc, 4, 1, {}, f.box.path("gone/b.png"));
+    f.doc->Images[5].FileName = f.box.path("gone/stale.png"); // a free slot is not used
     f.doc->ScriptPath = f.box.path("cv.qds");
 
     const QString media = f.box.path("cv media");
@@ -104,12 +118,13 @@ TEST(EditMedia, CollectMediaCopiesBesideTheProjectAndPointsThere) {
     EXPECT_PROMPTS_DONE(f.prompter);
     EXPECT_TRUE(f.doc->Dirty);
     // The default background beside the program is one of the files the project uses.
-    EXPECT_EQ(f.view.status, "Collected 4 files into " + QDir::toNativeSeparators(media));
+    EXPECT_EQ(f.view.status, "Collected 5 files into " + QDir::toNativeSeparators(media));
     EXPECT_EQ(QDir(media).entryList(QDir::Files),
-              (QStringList{"a (2).png", "a.png", "bakpic.jpg", "song.mp3"}));
+              (QStringList{"a (2).png", "a.png", "bakpic.jpg", "show.png", "song.mp3"}));
     EXPECT_EQ(ReadAll(media + "/a (2).png"), "second");
     EXPECT_EQ(f.doc->Header.BackMusic.trimNull(), "cv media/song.mp3");
     EXPECT_EQ(f.doc->Header.BackPicture.trimNull(), "cv media/bakpic.jpg");
+    EXPECT_EQ(f.doc->Tabs[SlideShowTab].Icon.trimNull(), "cv media/show.png");
     EXPECT_EQ(f.doc->Images[1].FileName.trimNull(), "cv media/a.png");
     EXPECT_EQ(f.doc->Images[2].FileName.trimNull(), "cv media/a (2).png");
     EXPECT_EQ(f.doc->Images[3].FileName.trimNull(), "cv media/a.png");
@@ -117,9 +132,9 @@ TEST(EditMedia, CollectMediaCopiesBesideTheProjectAndPointsThere) {
 
     // A second run finds everything in place and changes nothing.
     f.doc->Dirty = false;
-    EXPECT_EQ(CollectMedia(*f.doc, media).collected, 4);
+    EXPECT_EQ(CollectMedia(*f.doc, media).collected, 5);
     EXPECT_FALSE(f.doc->Dirty);
-    EXPECT_EQ(QDir(media).entryList(QDir::Files).size(), 4);
+    EXPECT_EQ(QDir(media).entryList(QDir::Files).size(), 5);
 
     // A project that was never saved is saved first; no save, no copies.
     EditorFixture unsaved;
