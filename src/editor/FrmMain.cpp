@@ -3,9 +3,14 @@
 #include "VideoExportRun.h"
 #include "edit/StatusText.h"
 #include "edit/WorkspaceLayout.h"
+#include "editor/Autosave.h"
+#include "editor/ClipboardActions.h"
 #include "editor/EditActions.h"
+#include "editor/FileDrops.h"
 #include "editor/MediaActions.h"
+#include "editor/ProgressRun.h"
 #include "editor/PropertyPanes.h"
+#include "editor/RecentFilesMenu.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
 #include "export/ExportCommand.h"
@@ -88,20 +93,29 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         if (selfRun)
             generator_->setPlayer(PlayerStub());
 #endif
+        ProgressRun run(this, selfRun ? QStringLiteral("Generate Selfrun File")
+                                      : QStringLiteral("Generate QDV File"));
+        generator_->setProgress(run.progress());
         const auto outcome = path.isEmpty() ? generator_->GenerateResume(doc_, selfRun)
                                             : generator_->writePackage(doc_, path, selfRun);
+        generator_->setProgress({});
         return outcome == ResumeGenerator::Outcome::Written ? generator_->writtenPath() : QString();
     });
     editor_.setExporter([this](int command) {
+        const bool pdf = command == CmdExportPdf;
+        ProgressRun run(this,
+                        pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page"));
         QString written;
-        RunExport(command == CmdExportPdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_,
-                  res_, ctx_, &written);
+        RunExport(pdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_, res_, ctx_,
+                  run.progress(), &written);
         return written;
     });
     editor_.setLauncher([](const QString& program, const QStringList& args) {
         return QProcess::startDetached(program, args);
     });
     wireWorkspace();
+    AcceptFileDrops(this, picWorkSpace_, editor_);
+    StartAutosave(this, editor_);
     // Room for an 800 x 600 page beside the tool pane, within the screen.
     QSize size(1280, 860);
     if (const QScreen* screen = QGuiApplication::primaryScreen())
@@ -174,6 +188,10 @@ void FrmMain::buildMenus() {
             setStatusText(WrittenStatus(written));
     });
 
+    recent_ = new RecentFilesMenu(new QMenu(QStringLiteral("Open &Recent"), mainFile_), editor_,
+                                  [this] { panes_->commitPendingEdit(); });
+    mainFile_->insertMenu(findChild<QAction*>(QStringLiteral("SubFile3")), recent_->menu());
+
     mainEdit_ = menuBar()->addMenu(QStringLiteral("&Edit"));
     mainEdit_->setObjectName(QStringLiteral("MainEdit"));
     fill(mainEdit_, QStringLiteral("SubEdit"),
@@ -189,6 +207,7 @@ void FrmMain::buildMenus() {
           {10, "Setting", cmd(CmdSettings)}});
     AddMediaActions(mainFile_, [this](int index) { command(index); });
     AddUndoActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
+    AddClipboardActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
 
     mainAbout_ = menuBar()->addMenu(QStringLiteral("&About"));
     mainAbout_->setObjectName(QStringLiteral("MainAbout"));
@@ -428,6 +447,7 @@ void FrmMain::wireWorkspace() {
 
 void FrmMain::formLoad() {
     editor_.formLoad();
+    editor_.offerRecovery();
 }
 
 void FrmMain::command(int index) {
@@ -444,6 +464,7 @@ void FrmMain::closeEvent(QCloseEvent* e) {
         return;
     }
     e->accept();
+    editor_.discardRecovery();
     ctx_.removeWorkFolder();
 }
 

@@ -31,7 +31,10 @@ void Editor::formLoad() {
             doc_.ScriptPath = QFileInfo(ctx_.CommandLine).absoluteFilePath();
         } else {
             // A file that cannot be read leaves the default document, silently.
-            loaded = LoadScript(doc_, ctx_.CommandLine).opened;
+            if (LoadScript(doc_, ctx_.CommandLine).opened) {
+                view_.projectFileUsed(doc_.ScriptPath);
+                loaded = true;
+            }
             sizeAndCentreWorkspace();
         }
     }
