@@ -11,7 +11,7 @@
 
 namespace zentor {
 
-void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res) {
+QString ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res) {
     const QString start = doc.ScriptPath.isEmpty()
                               ? QStringLiteral("resume.mp4")
                               : QFileInfo(doc.ScriptPath).path() + QLatin1Char('/') +
@@ -20,7 +20,7 @@ void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImage
     QString path = QFileDialog::getSaveFileName(parent, QStringLiteral("Export Video"), start,
                                                 QStringLiteral("MP4 video (*.mp4)"));
     if (path.isEmpty())
-        return;
+        return QString();
     if (!path.endsWith(QLatin1String(".mp4"), Qt::CaseInsensitive))
         path += QStringLiteral(".mp4");
 
@@ -35,6 +35,7 @@ void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImage
     else if (result.outcome == VideoResult::Outcome::Written && !result.warnings.isEmpty())
         QMessageBox::information(parent, QStringLiteral("Export Video"),
                                  result.warnings.join(QLatin1Char('\n')));
+    return result.outcome == VideoResult::Outcome::Written ? path : QString();
 }
 
 } // namespace zentor
