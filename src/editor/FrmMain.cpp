@@ -1,11 +1,13 @@
 #include "editor/FrmMain.h"
 
 #include "VideoExportRun.h"
+#include "edit/StatusText.h"
 #include "edit/WorkspaceLayout.h"
 #include "editor/Autosave.h"
 #include "editor/ClipboardActions.h"
 #include "editor/EditActions.h"
 #include "editor/FileDrops.h"
+#include "editor/MediaActions.h"
 #include "editor/ProgressRun.h"
 #include "editor/PropertyPanes.h"
 #include "editor/RecentFilesMenu.h"
@@ -31,6 +33,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QProcess>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -86,7 +89,7 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_);
     generator_ = std::make_unique<ResumeGenerator>(ctx_, prompter_, *packagePictures_);
     generator_->setParallel(true);
-    editor_.setGenerator([this](bool selfRun) {
+    editor_.setGenerator([this](bool selfRun, const QString& path) {
 #ifdef ZENTOR_HAVE_PLAYER
         // Whoever double-clicks an .exe runs Windows; a build without the Windows player
         // writes the Linux one rather than nothing.
@@ -98,15 +101,22 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         ProgressRun run(this, selfRun ? QStringLiteral("Generate Selfrun File")
                                       : QStringLiteral("Generate QDV File"));
         generator_->setProgress(run.progress());
-        generator_->GenerateResume(doc_, selfRun);
+        const auto outcome = path.isEmpty() ? generator_->GenerateResume(doc_, selfRun)
+                                            : generator_->writePackage(doc_, path, selfRun);
         generator_->setProgress({});
+        return outcome == ResumeGenerator::Outcome::Written ? generator_->writtenPath() : QString();
     });
     editor_.setExporter([this](int command) {
         const bool pdf = command == CmdExportPdf;
         ProgressRun run(this,
                         pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page"));
+        QString written;
         RunExport(pdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_, res_, ctx_,
-                  run.progress());
+                  run.progress(), &written);
+        return written;
+    });
+    editor_.setLauncher([](const QString& program, const QStringList& args) {
+        return QProcess::startDetached(program, args);
     });
     wireWorkspace();
     AcceptFileDrops(this, picWorkSpace_, editor_);
@@ -178,7 +188,9 @@ void FrmMain::buildMenus() {
     connect(video, &QAction::triggered, this, [this] {
         panes_->commitPendingEdit();
         editor_.commitInPlaceEdit();
-        ExportVideoInteractive(this, doc_, res_, ctx_);
+        const QString written = ExportVideoInteractive(this, doc_, res_, ctx_);
+        if (!written.isEmpty())
+            setStatusText(WrittenStatus(written));
     });
 
     recent_ = new RecentFilesMenu(new QMenu(QStringLiteral("Open &Recent"), mainFile_), editor_,
@@ -198,6 +210,7 @@ void FrmMain::buildMenus() {
           {8, "Move To &Bottom", cmd(CmdMoveToBottom)},
           {9, nullptr, {}},
           {10, "Setting", cmd(CmdSettings)}});
+    AddMediaActions(mainFile_, [this](int index) { command(index); });
     AddUndoActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
     AddClipboardActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
 
@@ -440,7 +453,6 @@ void FrmMain::wireWorkspace() {
 void FrmMain::formLoad() {
     editor_.formLoad();
     editor_.offerRecovery();
-    setStatusText(QStringLiteral("Ready"));
 }
 
 void FrmMain::command(int index) {

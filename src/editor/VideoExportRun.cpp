@@ -11,8 +11,8 @@
 
 namespace zentor {
 
-void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res,
-                            const ProcessContext& ctx) {
+QString ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res,
+                               const ProcessContext& ctx) {
     const QString start = doc.ScriptPath.isEmpty()
                               ? QStringLiteral("resume.mp4")
                               : QFileInfo(doc.ScriptPath).path() + QLatin1Char('/') +
@@ -21,7 +21,7 @@ void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImage
     QString path = QFileDialog::getSaveFileName(parent, QStringLiteral("Export Video"), start,
                                                 QStringLiteral("MP4 video (*.mp4)"));
     if (path.isEmpty())
-        return;
+        return QString();
     if (!path.endsWith(QLatin1String(".mp4"), Qt::CaseInsensitive))
         path += QStringLiteral(".mp4");
 
@@ -30,7 +30,7 @@ void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImage
     const auto show = DocumentShowFrames(doc, ctx, res, warnings, error);
     if (!show) {
         QMessageBox::warning(parent, QStringLiteral("Export Video"), error);
-        return;
+        return QString();
     }
     VideoResult result;
     {
@@ -43,6 +43,7 @@ void ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImage
     else if (result.outcome == VideoResult::Outcome::Written && !result.warnings.isEmpty())
         QMessageBox::information(parent, QStringLiteral("Export Video"),
                                  result.warnings.join(QLatin1Char('\n')));
+    return result.outcome == VideoResult::Outcome::Written ? path : QString();
 }
 
 } // namespace zentor
