@@ -9,10 +9,10 @@ namespace zentor {
 
 namespace {
 
-// Where a page comes when reading the résumé: in the strip's order, then what belongs to
-// no page.
+// Where a page comes when reading the résumé: what concerns the whole of it first, then the
+// pages in the strip's order.
 int ReadingOrder(int tab) {
-    return tab < 0 ? 100 : GetTabIndex(tab);
+    return tab < 0 ? -1 : GetTabIndex(tab);
 }
 
 } // namespace

@@ -25,9 +25,9 @@ struct CheckOptions {
     PictureCache* cache = nullptr;
 };
 
-// Everything to fix before the résumé goes out, page by page (the profile first, then the
-// content pages in the strip's order), each page's findings in kind order. A dictionary
-// that cannot be opened is itself a finding (tab -1), and the other kinds are still checked.
+// Everything to fix before the résumé goes out, page by page in the strip's order (the
+// profile first), each page's findings in kind order. A dictionary that cannot be opened is
+// itself a finding (tab -1, first), and the other kinds are still checked.
 std::vector<Finding> CheckDocument(const Document& doc, const CheckOptions& options = {});
 
 // The parts, for callers that want one kind.
