@@ -9,7 +9,9 @@
 #include <QImage>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <future>
 #include <optional>
 
 namespace zentor {
@@ -88,23 +90,30 @@ void CheckFit(const TextElement& t, int slot, const TextBoxLayout& layout,
 
 // Laid out once for both: a text that does not fit its box, and one hard to read.
 void CheckTexts(const Document& doc, PictureCache* cache, std::vector<Finding>& out) {
-    const ResImages noBadge; // the content pages carry no built-in picture
+    // What lies under the texts, page by page, drawn on all cores: decoding the pictures is
+    // most of the work.
+    std::array<std::future<QImage>, SlideShowTab> backdrops;
     for (int tab = 1; tab < SlideShowTab; ++tab) {
-        QImage backdrop;
+        const bool hasText = std::any_of(doc.Texts.begin() + 1, doc.Texts.end(),
+                                         [tab](const TextElement& t) { return t.TabNo == tab; });
+        if (hasText)
+            backdrops[size_t(tab)] = std::async(std::launch::async, [&doc, tab, cache] {
+                const ResImages noBadge; // the content pages carry no built-in picture
+                return RenderPageImage(doc, tab, noBadge, cache, false)
+                    .convertToFormat(QImage::Format_RGB32);
+            });
+    }
+    for (int tab = 1; tab < SlideShowTab; ++tab) {
+        if (!backdrops[size_t(tab)].valid())
+            continue;
+        const QImage backdrop = backdrops[size_t(tab)].get();
         for (int slot = 1; slot <= MaxTexts; ++slot) {
             const TextElement& t = doc.Texts[size_t(slot)];
             if (t.TabNo != tab)
                 continue;
             const TextBoxLayout layout = Layout(t);
             CheckFit(t, slot, layout, out);
-            if (layout.lines.empty())
-                continue;
-            if (backdrop.isNull())
-                backdrop = RenderPageImage(doc, tab, noBadge, cache, false)
-                               .convertToFormat(QImage::Format_RGB32);
-            if (backdrop.isNull())
-                continue; // a frame that cannot be drawn
-            const auto ratio = TextContrast(t, layout, backdrop);
+            const auto ratio = backdrop.isNull() ? std::nullopt : TextContrast(t, layout, backdrop);
             const double needed = RequiredContrast(t.FontSize, t.FontStyle);
             if (!ratio || *ratio >= needed)
                 continue;
