@@ -6,6 +6,7 @@
 #include "editor/PropertyPanes.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
+#include "editor/check/CheckUi.h"
 #include "export/ExportCommand.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
@@ -74,22 +75,25 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     statusBar()->addWidget(statusPanel_, 1);
 
     panes_ = new PropertyPanes(picElementLoc_, editor_, prompter_, ctx_, this);
+    auto* check = new CheckUi(this, *this, editor_, pictures_, mainEdit_);
 
     // Generation renders with the page painter; the self-running kind starts with the
     // player carried in the program.
     packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_);
     generator_ = std::make_unique<ResumeGenerator>(ctx_, prompter_, *packagePictures_);
     generator_->setParallel(true);
-    editor_.setGenerator([this](bool selfRun) {
+    editor_.setGenerator([this, check](bool selfRun) {
 #ifdef ZENTOR_HAVE_PLAYER
         if (selfRun)
             generator_->setPlayer(PlayerStub());
 #endif
-        generator_->GenerateResume(doc_, selfRun);
+        if (generator_->GenerateResume(doc_, selfRun) == ResumeGenerator::Outcome::Written)
+            check->reportAfterOutput();
     });
-    editor_.setExporter([this](int command) {
-        RunExport(command == CmdExportPdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_,
-                  res_, ctx_);
+    editor_.setExporter([this, check](int command) {
+        if (RunExport(command == CmdExportPdf ? ExportKind::Pdf : ExportKind::WebPage, doc_,
+                      prompter_, res_, ctx_))
+            check->reportAfterOutput();
     });
     wireWorkspace();
     // Room for an 800 x 600 page beside the tool pane, within the screen.
@@ -159,7 +163,8 @@ void FrmMain::buildMenus() {
     connect(video, &QAction::triggered, this, [this] {
         panes_->commitPendingEdit();
         editor_.commitInPlaceEdit();
-        ExportVideoInteractive(this, doc_, res_);
+        if (ExportVideoInteractive(this, doc_, res_))
+            findChild<CheckUi*>()->reportAfterOutput();
     });
 
     mainEdit_ = menuBar()->addMenu(QStringLiteral("&Edit"));

@@ -1,0 +1,84 @@
+#include "editor/check/CheckUi.h"
+
+#include "check/CheckDocument.h"
+#include "check/ShowFinding.h"
+#include "edit/Editor.h"
+#include "editor/check/CheckPanel.h"
+#include "editor/check/SpellService.h"
+#include "editor/check/SpellUnderline.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+namespace zentor {
+
+CheckUi::CheckUi(QMainWindow* window, EditorView& view, Editor& editor, PictureCache& cache,
+                 QMenu* editMenu)
+    : QObject(window), window_(window), view_(view), editor_(editor), cache_(cache),
+      spelling_(new SpellService(editor.document(), this)), panel_(new CheckPanel(window)) {
+    // The boxes whose words the résumé shows: a text's words, in place and in the panel,
+    // and the page's name.
+    for (const char* name : {"TxtWord", "TxtAdd"})
+        if (auto* box = window->findChild<QPlainTextEdit*>(QLatin1String(name)))
+            UnderlineSpelling(box, *spelling_);
+    if (auto* box = window->findChild<QLineEdit*>(QStringLiteral("TxtTabName")))
+        UnderlineSpelling(box, *spelling_);
+
+    window->addDockWidget(Qt::RightDockWidgetArea, panel_);
+    panel_->hide();
+    connect(panel_, &CheckPanel::checkAgain, this, &CheckUi::runCheck);
+    connect(panel_, &CheckPanel::languageChosen, this, [this](const QString& language) {
+        spelling_->setLanguage(language);
+        runCheck();
+    });
+    connect(panel_, &CheckPanel::chosen, this,
+            [this](const Finding& f) { ShowFinding(editor_, view_, f); });
+
+    editMenu->addSeparator();
+    QAction* check = editMenu->addAction(QStringLiteral("Check Résumé..."));
+    check->setObjectName(QStringLiteral("SubEditCheck"));
+    check->setShortcut(QKeySequence(Qt::Key_F7));
+    connect(check, &QAction::triggered, this, &CheckUi::openPanel);
+}
+
+// The window's dictionary and decoded pictures; without a dictionary the check says which
+// language has none.
+CheckOptions CheckUi::options() const {
+    CheckOptions o;
+    o.speller = spelling_->speller();
+    o.language = spelling_->language();
+    o.cache = &cache_;
+    return o;
+}
+
+void CheckUi::runCheck() {
+    editor_.commitInPlaceEdit();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    std::vector<Finding> findings = CheckDocument(editor_.document(), options());
+    QApplication::restoreOverrideCursor();
+    panel_->setLanguages(AvailableDictionaries(), spelling_->language());
+    panel_->showFindings(editor_.document(), std::move(findings));
+}
+
+void CheckUi::openPanel() {
+    runCheck();
+    panel_->show();
+    panel_->raise();
+}
+
+void CheckUi::reportAfterOutput() {
+    QTimer::singleShot(0, this, [this] {
+        const size_t n = CheckDocument(editor_.document(), options()).size();
+        if (n == 0)
+            return;
+        view_.setStatusText(FindingCount(n) + QStringLiteral(" remain: Edit > Check Résumé... "
+                                                             "(F7) lists them"));
+    });
+}
+
+} // namespace zentor
