@@ -34,6 +34,13 @@ QString PageName(const Document& doc, int tab) {
     return name.isEmpty() ? QStringLiteral("page %1").arg(tab) : name;
 }
 
+QString ObjectLabel(const QString& name, int objectKind, int slot) {
+    const QString trimmed = name.trimmed();
+    if (!trimmed.isEmpty())
+        return trimmed;
+    return (objectKind == 1 ? QStringLiteral("image %1") : QStringLiteral("text %1")).arg(slot);
+}
+
 QString FindingLine(const Document& doc, const Finding& f) {
     QString line = PageName(doc, f.tab);
     if (!f.object.isEmpty())

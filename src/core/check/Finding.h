@@ -34,6 +34,9 @@ QString KindName(FindingKind kind);
 // The page name people know: "Get Started" for the profile page, else the tab's name.
 QString PageName(const Document& doc, int tab);
 
+// An object as findings name it: its name, or "text 3" / "image 2" when it has none.
+QString ObjectLabel(const QString& name, int objectKind, int slot);
+
 // One line for people: page, object, what, and what to write instead.
 QString FindingLine(const Document& doc, const Finding& f);
 

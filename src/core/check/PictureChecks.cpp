@@ -100,8 +100,8 @@ void CheckPictures(const Document& doc, PictureCache* cache, std::vector<Finding
             continue;
         const QSize drawn = BoxRect(img.Left, img.Top, img.Width, img.Height).size();
         CheckSource(doc,
-                    {img.TabNo, 1, slot, img.Name.text().trimmed(), img.FileName.trimNull(),
-                     QStringLiteral("picture"), drawn},
+                    {img.TabNo, 1, slot, ObjectLabel(img.Name.text(), 1, slot),
+                     img.FileName.trimNull(), QStringLiteral("picture"), drawn},
                     true, cache, out);
     }
     CheckSource(doc,

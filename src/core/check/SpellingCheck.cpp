@@ -33,7 +33,7 @@ void CheckSpelling(const Document& doc, const SpellChecker& speller, std::vector
         const TextElement& t = doc.Texts[size_t(slot)];
         if (t.TabNo < 1 || t.TabNo >= SlideShowTab)
             continue;
-        Finding where{FindingKind::Spelling, t.TabNo, 2, slot, t.Name.text().trimmed()};
+        Finding where{FindingKind::Spelling, t.TabNo, 2, slot, ObjectLabel(t.Name.text(), 2, slot)};
         CheckText(t.Text.text(), speller, exempt, where, out);
     }
 }

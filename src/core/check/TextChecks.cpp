@@ -24,7 +24,7 @@ TextBoxLayout Layout(const TextElement& t) {
 }
 
 Finding About(FindingKind kind, const TextElement& t, int slot) {
-    return {kind, t.TabNo, 2, slot, t.Name.text().trimmed()};
+    return {kind, t.TabNo, 2, slot, ObjectLabel(t.Name.text(), 2, slot)};
 }
 
 // Samples taken across a line's rectangle at most this far apart, in pixels: enough to see

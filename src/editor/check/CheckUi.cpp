@@ -6,6 +6,7 @@
 #include "editor/check/CheckPanel.h"
 #include "editor/check/SpellService.h"
 #include "editor/check/SpellUnderline.h"
+#include "model/Document.h"
 
 #include <QAction>
 #include <QApplication>
@@ -36,8 +37,10 @@ CheckUi::CheckUi(QMainWindow* window, EditorView& view, Editor& editor, PictureC
         spelling_->setLanguage(language);
         runCheck();
     });
-    connect(panel_, &CheckPanel::chosen, this,
-            [this](const Finding& f) { ShowFinding(editor_, view_, f); });
+    connect(panel_, &CheckPanel::chosen, this, [this](const Finding& f) {
+        ShowFinding(editor_, view_, f);
+        selectWord(f);
+    });
 
     editMenu->addSeparator();
     QAction* check = editMenu->addAction(QStringLiteral("Check Résumé..."));
@@ -65,10 +68,30 @@ void CheckUi::runCheck() {
     panel_->showFindings(editor_.document(), std::move(findings));
 }
 
+// A misspelt word of a text is selected in the text's box, ready to be retyped.
+void CheckUi::selectWord(const Finding& f) {
+    auto* box = window_->findChild<QPlainTextEdit*>(QStringLiteral("TxtWord"));
+    if (!box || f.kind != FindingKind::Spelling || f.objectKind != 2 || f.place < 0)
+        return;
+    // The box holds "\r\n" as one paragraph break.
+    const QString text = editor_.document().Texts[size_t(f.slot)].Text.text();
+    const int at = f.place - int(text.left(f.place).count(QStringLiteral("\r\n")));
+    QTextCursor c(box->document());
+    c.setPosition(std::min(at, c.document()->characterCount() - 1));
+    c.setPosition(std::min(at + int(f.word.size()), c.document()->characterCount() - 1),
+                  QTextCursor::KeepAnchor);
+    box->setTextCursor(c);
+    box->ensureCursorVisible();
+}
+
 void CheckUi::openPanel() {
     runCheck();
+    const bool first = panel_->isHidden() && !shownOnce_;
     panel_->show();
     panel_->raise();
+    if (first) // wide enough to read the problems beside the page
+        window_->resizeDocks({panel_}, {480}, Qt::Horizontal);
+    shownOnce_ = true;
 }
 
 void CheckUi::reportAfterOutput() {

@@ -9,6 +9,7 @@ namespace zentor {
 
 class CheckPanel;
 struct CheckOptions;
+struct Finding;
 class Editor;
 class EditorView;
 class PictureCache;
@@ -35,6 +36,7 @@ public:
 private:
     void runCheck();
     CheckOptions options() const;
+    void selectWord(const Finding& f);
 
     QMainWindow* window_;
     EditorView& view_;
@@ -42,6 +44,7 @@ private:
     PictureCache& cache_;
     SpellService* spelling_;
     CheckPanel* panel_;
+    bool shownOnce_ = false;
 };
 
 } // namespace zentor
