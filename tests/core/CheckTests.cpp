@@ -291,6 +291,13 @@ TEST(CheckCli, PrintsFindingsForPeopleOrAsJsonWithTheExitStatus) {
         << out.toStdString();
 
     ASSERT_EQ(RunCli({"check", bad, "--json", "--lang", "en_US"}, &out), 1);
+    // The keys come in the order people read them.
+    qsizetype last = -1;
+    for (const char* key : {"kind", "tab", "object", "message", "word", "suggestions"}) {
+        const qsizetype at = out.indexOf(QByteArray("\"") + key + "\":");
+        EXPECT_GT(at, last) << key;
+        last = at;
+    }
     const QJsonArray list = QJsonDocument::fromJson(out).object().value("findings").toArray();
     ASSERT_EQ(list.size(), 1);
     const QJsonObject f = list[0].toObject();

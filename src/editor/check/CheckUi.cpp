@@ -32,11 +32,13 @@ CheckUi::CheckUi(QMainWindow* window, EditorView& view, Editor& editor, PictureC
 
     window->addDockWidget(Qt::RightDockWidgetArea, panel_);
     panel_->hide();
-    connect(panel_, &CheckPanel::checkAgain, this, &CheckUi::runCheck);
-    connect(panel_, &CheckPanel::languageChosen, this, [this](const QString& language) {
-        spelling_->setLanguage(language);
-        runCheck();
+    connect(panel_, &CheckPanel::checkAgain, this, [this] { runCheck(true); });
+    // A word accepted from a box's menu leaves the list too; what is being typed stays open.
+    connect(spelling_, &SpellService::changed, this, [this] {
+        if (panel_->isVisible())
+            runCheck(false);
     });
+    connect(panel_, &CheckPanel::languageChosen, spelling_, &SpellService::setLanguage);
     connect(panel_, &CheckPanel::chosen, this, [this](const Finding& f) {
         ShowFinding(editor_, view_, f);
         selectWord(f);
@@ -59,8 +61,9 @@ CheckOptions CheckUi::options() const {
     return o;
 }
 
-void CheckUi::runCheck() {
-    editor_.commitInPlaceEdit();
+void CheckUi::runCheck(bool commitTyping) {
+    if (commitTyping)
+        editor_.commitInPlaceEdit();
     QApplication::setOverrideCursor(Qt::WaitCursor);
     std::vector<Finding> findings = CheckDocument(editor_.document(), options());
     QApplication::restoreOverrideCursor();
@@ -85,7 +88,7 @@ void CheckUi::selectWord(const Finding& f) {
 }
 
 void CheckUi::openPanel() {
-    runCheck();
+    runCheck(true);
     const bool first = panel_->isHidden() && !shownOnce_;
     panel_->show();
     panel_->raise();

@@ -34,7 +34,8 @@ public:
     CheckPanel& panel() { return *panel_; }
 
 private:
-    void runCheck();
+    // Checks again; `commitTyping` stores a text being typed in place first.
+    void runCheck(bool commitTyping);
     CheckOptions options() const;
     void selectWord(const Finding& f);
 
