@@ -237,6 +237,7 @@ TEST(Check, SpellableWordsLeaveAddressesAndNumbersOut) {
         {"mail me@example.org or see https://x.example/a, www.y.example and z.example/cv.",
          {"mail", "or", "see", "and"}},
         {"3D MP3 2nd 2024 x2 Q3-report", {"report"}},
+        {"(see x.example) <me@x.example>", {"see"}},
         {"Ends a sentence.Next", {"Ends", "a"}},
         {"Crème brûlée", {"Crème", "brûlée"}},
         {"Vitara wrote", {"wrote"}},

@@ -20,12 +20,14 @@ bool IsWordLetter(QChar c) {
 // A chunk between blanks that is an address rather than words: an e-mail, a link, or a
 // host name such as "example.org/cv".
 bool IsAddress(QStringView chunk) {
+    // Brackets, quotes and a sentence's closing marks are not part of the address.
+    while (!chunk.isEmpty() && QStringView(u"([{\"'<").contains(chunk.front()))
+        chunk = chunk.mid(1);
+    while (!chunk.isEmpty() && QStringView(u".,;:!?)]}\"'>").contains(chunk.back()))
+        chunk.chop(1);
     if (chunk.contains(QLatin1Char('@')) || chunk.contains(QLatin1String("://")) ||
         chunk.startsWith(QLatin1String("www."), Qt::CaseInsensitive))
         return true;
-    // A sentence's closing marks are not part of the address.
-    while (!chunk.isEmpty() && QStringView(u".,;:!?)]\"'").contains(chunk.back()))
-        chunk.chop(1);
     if (!chunk.contains(QLatin1Char('.')))
         return false;
     static const QRegularExpression host(
