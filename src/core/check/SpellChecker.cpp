@@ -60,12 +60,10 @@ QString SpellChecker::decode(const std::string& word) const {
 }
 
 bool SpellChecker::isCorrect(const QString& word) const {
-    if (accepted_.contains(word.toLower()))
-        return true;
     auto it = known_.constFind(word);
     if (it != known_.constEnd())
         return *it;
-    const bool ok = hunspell_->spell(encode(word));
+    const bool ok = accepted_.contains(word.toLower()) || hunspell_->spell(encode(word));
     known_.insert(word, ok);
     return ok;
 }
@@ -82,8 +80,11 @@ QStringList SpellChecker::suggestions(const QString& word) const {
 }
 
 void SpellChecker::accept(const QString& word) {
-    if (!word.isEmpty())
-        accepted_.insert(word.toLower());
+    if (word.isEmpty())
+        return;
+    accepted_.insert(word.toLower());
+    // The answers for its other spellings ("Zentor", "ZENTOR") are asked again.
+    known_.removeIf([&](auto it) { return it.key().compare(word, Qt::CaseInsensitive) == 0; });
 }
 
 void SpellChecker::accept(const QStringList& words) {
