@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -102,8 +103,14 @@ void CheckUi::reportAfterOutput() {
         const size_t n = CheckDocument(editor_.document(), options()).size();
         if (n == 0)
             return;
-        view_.setStatusText(FindingCount(n) + QStringLiteral(" remain: Edit > Check Résumé... "
-                                                             "(F7) lists them"));
+        const QString remain =
+            FindingCount(n) + QStringLiteral(" remain: Edit > Check Résumé... (F7) lists them");
+        // Said beside what the command itself reported (the file written), not instead.
+        const auto* status = window_->findChild<QLabel*>(QStringLiteral("StatusPanel1"));
+        const QString said = status ? status->text() : QString();
+        view_.setStatusText(said.isEmpty() || said == QLatin1String("Ready")
+                                ? remain
+                                : said + QStringLiteral("; ") + remain);
     });
 }
 
