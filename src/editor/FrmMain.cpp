@@ -163,7 +163,7 @@ void FrmMain::buildMenus() {
     connect(video, &QAction::triggered, this, [this] {
         panes_->commitPendingEdit();
         editor_.commitInPlaceEdit();
-        if (ExportVideoInteractive(this, doc_, res_))
+        if (!ExportVideoInteractive(this, doc_, res_).isEmpty())
             findChild<CheckUi*>()->reportAfterOutput();
     });
 

@@ -12,7 +12,7 @@
 
 namespace zentor {
 
-bool ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res) {
+QString ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res) {
     const QString start = doc.ScriptPath.isEmpty()
                               ? QStringLiteral("resume.mp4")
                               : QFileInfo(doc.ScriptPath).path() + QLatin1Char('/') +
@@ -21,7 +21,7 @@ bool ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImage
     QString path = QFileDialog::getSaveFileName(parent, QStringLiteral("Export Video"), start,
                                                 QStringLiteral("MP4 video (*.mp4)"));
     if (path.isEmpty())
-        return false;
+        return QString();
     if (!path.endsWith(QLatin1String(".mp4"), Qt::CaseInsensitive))
         path += QStringLiteral(".mp4");
 
@@ -44,7 +44,7 @@ bool ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImage
     else if (result.outcome == VideoResult::Outcome::Written && !result.warnings.isEmpty())
         QMessageBox::information(parent, QStringLiteral("Export Video"),
                                  result.warnings.join(QLatin1Char('\n')));
-    return result.outcome == VideoResult::Outcome::Written;
+    return result.outcome == VideoResult::Outcome::Written ? path : QString();
 }
 
 } // namespace zentor

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QWidget;
 
 namespace zentor {
@@ -8,7 +10,7 @@ struct Document;
 class ResImages;
 
 // File > Export Video: asks where to write, records the show with a cancellable progress
-// dialog and says how it went. True when the video was written.
-bool ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res);
+// dialog and says how it went. Returns the path written, empty when nothing was.
+QString ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res);
 
 } // namespace zentor
