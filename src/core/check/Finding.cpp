@@ -41,15 +41,18 @@ QString ObjectLabel(const QString& name, int objectKind, int slot) {
     return (objectKind == 1 ? QStringLiteral("image %1") : QStringLiteral("text %1")).arg(slot);
 }
 
+QString FindingProblem(const Finding& f) {
+    if (f.suggestions.isEmpty())
+        return f.message;
+    return f.message +
+           QStringLiteral(" (try: %1)").arg(f.suggestions.mid(0, 5).join(QStringLiteral(", ")));
+}
+
 QString FindingLine(const Document& doc, const Finding& f) {
     QString line = PageName(doc, f.tab);
     if (!f.object.isEmpty())
         line += QStringLiteral(", ") + f.object;
-    line += QStringLiteral(": ") + f.message;
-    if (!f.suggestions.isEmpty())
-        line +=
-            QStringLiteral(" (try: %1)").arg(f.suggestions.mid(0, 5).join(QStringLiteral(", ")));
-    return line;
+    return line + QStringLiteral(": ") + FindingProblem(f);
 }
 
 QJsonObject FindingJson(const Finding& f) {

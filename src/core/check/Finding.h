@@ -37,6 +37,9 @@ QString PageName(const Document& doc, int tab);
 // An object as findings name it: its name, or "text 3" / "image 2" when it has none.
 QString ObjectLabel(const QString& name, int objectKind, int slot);
 
+// What is wrong and, for a misspelt word, the first few things to write instead.
+QString FindingProblem(const Finding& f);
+
 // One line for people: page, object, what, and what to write instead.
 QString FindingLine(const Document& doc, const Finding& f);
 

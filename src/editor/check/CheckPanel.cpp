@@ -64,10 +64,7 @@ void CheckPanel::showFindings(const Document& doc, std::vector<Finding> findings
     findings_ = std::move(findings);
     list_->clear();
     for (const Finding& f : findings_) {
-        QString problem = f.message;
-        if (!f.suggestions.isEmpty())
-            problem += QStringLiteral(" (try: %1)")
-                           .arg(f.suggestions.mid(0, 5).join(QStringLiteral(", ")));
+        const QString problem = FindingProblem(f);
         auto* item =
             new QTreeWidgetItem(list_, {PageName(doc, f.tab), f.object, KindName(f.kind), problem});
         item->setToolTip(3, problem);
