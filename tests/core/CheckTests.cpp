@@ -126,6 +126,18 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
                         Picture(box, "dark.png", 400, 200, 0xFF202020));
          },
          {{FindingKind::Contrast, 6}}},
+        {"black text with a dark picture under a quarter of its line",
+         [&](Document& d) {
+             PlaceImage(d, 1, 6, QRect(0, 0, 80, 200),
+                        Picture(box, "dark.png", 80, 200, 0xFF202020));
+         },
+         {{FindingKind::Contrast, 6}}},
+        {"black text with a dark speck at the start of its line",
+         [&](Document& d) {
+             PlaceImage(d, 1, 6, QRect(0, 0, 26, 200),
+                        Picture(box, "dark.png", 26, 200, 0xFF202020));
+         },
+         {}},
         {"a picture drawn 2 times its pixels",
          [&](Document& d) {
              PlaceImage(d, 1, 7, QRect(400, 300, 200, 100), Picture(box, "small.png", 100, 50));
