@@ -39,7 +39,7 @@ void BM_Export(benchmark::State& state) {
     const auto render = state.range(0) == 0 ? RenderPdf : RenderWebPage;
     qint64 bytes = 0;
     for (auto _ : state)
-        bytes = render(*s.doc, s.res, s.ws.ctx).size();
+        bytes = render(*s.doc, s.res, s.ws.ctx, {}).size();
     state.counters["bytes"] = double(bytes);
 }
 BENCHMARK(BM_Export)->Arg(0)->Arg(1)->ArgName("web")->Unit(benchmark::kMillisecond)->UseRealTime();

@@ -2,8 +2,13 @@
 
 #include "VideoExportRun.h"
 #include "edit/WorkspaceLayout.h"
+#include "editor/Autosave.h"
+#include "editor/ClipboardActions.h"
 #include "editor/EditActions.h"
+#include "editor/FileDrops.h"
+#include "editor/ProgressRun.h"
 #include "editor/PropertyPanes.h"
+#include "editor/RecentFilesMenu.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
 #include "editor/check/CheckUi.h"
@@ -87,15 +92,25 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         if (selfRun)
             generator_->setPlayer(PlayerStub());
 #endif
-        if (generator_->GenerateResume(doc_, selfRun) == ResumeGenerator::Outcome::Written)
+        ProgressRun run(this, selfRun ? QStringLiteral("Generate Selfrun File")
+                                      : QStringLiteral("Generate QDV File"));
+        generator_->setProgress(run.progress());
+        const auto outcome = generator_->GenerateResume(doc_, selfRun);
+        generator_->setProgress({});
+        if (outcome == ResumeGenerator::Outcome::Written)
             check->reportAfterOutput();
     });
     editor_.setExporter([this, check](int command) {
-        if (RunExport(command == CmdExportPdf ? ExportKind::Pdf : ExportKind::WebPage, doc_,
-                      prompter_, res_, ctx_))
+        const bool pdf = command == CmdExportPdf;
+        ProgressRun run(this,
+                        pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page"));
+        if (RunExport(pdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_, res_, ctx_,
+                      run.progress()))
             check->reportAfterOutput();
     });
     wireWorkspace();
+    AcceptFileDrops(this, picWorkSpace_, editor_);
+    StartAutosave(this, editor_);
     // Room for an 800 x 600 page beside the tool pane, within the screen.
     QSize size(1280, 860);
     if (const QScreen* screen = QGuiApplication::primaryScreen())
@@ -167,6 +182,10 @@ void FrmMain::buildMenus() {
             findChild<CheckUi*>()->reportAfterOutput();
     });
 
+    recent_ = new RecentFilesMenu(new QMenu(QStringLiteral("Open &Recent"), mainFile_), editor_,
+                                  [this] { panes_->commitPendingEdit(); });
+    mainFile_->insertMenu(findChild<QAction*>(QStringLiteral("SubFile3")), recent_->menu());
+
     mainEdit_ = menuBar()->addMenu(QStringLiteral("&Edit"));
     mainEdit_->setObjectName(QStringLiteral("MainEdit"));
     fill(mainEdit_, QStringLiteral("SubEdit"),
@@ -181,6 +200,7 @@ void FrmMain::buildMenus() {
           {9, nullptr, {}},
           {10, "Setting", cmd(CmdSettings)}});
     AddUndoActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
+    AddClipboardActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
 
     mainAbout_ = menuBar()->addMenu(QStringLiteral("&About"));
     mainAbout_->setObjectName(QStringLiteral("MainAbout"));
@@ -420,6 +440,7 @@ void FrmMain::wireWorkspace() {
 
 void FrmMain::formLoad() {
     editor_.formLoad();
+    editor_.offerRecovery();
     setStatusText(QStringLiteral("Ready"));
 }
 
@@ -437,6 +458,7 @@ void FrmMain::closeEvent(QCloseEvent* e) {
         return;
     }
     e->accept();
+    editor_.discardRecovery();
     ctx_.removeWorkFolder();
 }
 

@@ -24,6 +24,7 @@ namespace zentor {
 
 class InPlaceEdit;
 class PropertyPanes;
+class RecentFilesMenu;
 class RenderedPictures;
 class ResImages;
 class ResumeGenerator;
@@ -76,6 +77,7 @@ public:
     void showSettings() override;
     void showAbout() override;
     void openUrl(const QString& url) override;
+    void projectFileUsed(const QString& path) override;
 
 protected:
     void closeEvent(QCloseEvent* e) override;
@@ -107,6 +109,7 @@ private:
     QMenu* mainFile_ = nullptr;
     QMenu* mainEdit_ = nullptr;
     QMenu* mainAbout_ = nullptr;
+    RecentFilesMenu* recent_ = nullptr;
     QToolBar* toolbar_ = nullptr;
     std::map<int, QAction*> toolbarActions_;
 

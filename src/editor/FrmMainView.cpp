@@ -2,6 +2,7 @@
 #include "editor/FrmAbout.h"
 #include "editor/FrmMain.h"
 #include "editor/PropertyPanes.h"
+#include "editor/RecentFilesMenu.h"
 #include "editor/WorkspaceWidgets.h"
 #include "model/ProcessContext.h"
 #include "render/WorkspacePainter.h"
@@ -182,6 +183,10 @@ void FrmMain::showAbout() {
 
 void FrmMain::openUrl(const QString& url) {
     QDesktopServices::openUrl(QUrl(url));
+}
+
+void FrmMain::projectFileUsed(const QString& path) {
+    recent_->add(path);
 }
 
 } // namespace zentor

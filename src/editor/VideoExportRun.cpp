@@ -1,14 +1,13 @@
 #include "VideoExportRun.h"
 
+#include "editor/ProgressRun.h"
 #include "export/PageShowFrames.h"
 #include "export/VideoExport.h"
 #include "model/Document.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QProgressDialog>
 
 namespace zentor {
 
@@ -26,19 +25,11 @@ QString ExportVideoInteractive(QWidget* parent, const Document& doc, const ResIm
         path += QStringLiteral(".mp4");
 
     PageShowFrames show(doc, res);
-    QProgressDialog progress(QStringLiteral("Recording the video..."), QStringLiteral("Cancel"), 0,
-                             show.stepCount(), parent);
-    progress.setWindowTitle(QStringLiteral("Export Video"));
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(0);
-    const VideoResult result =
-        ExportVideo(doc, show, path, VideoOptions{}, [&](int step, int steps) {
-            progress.setLabelText(QStringLiteral("Page %1 of %2").arg(step).arg(steps));
-            progress.setValue(step - 1);
-            QApplication::processEvents();
-            return !progress.wasCanceled();
-        });
-    progress.close();
+    VideoResult result;
+    {
+        ProgressRun progress(parent, QStringLiteral("Export Video"));
+        result = ExportVideo(doc, show, path, VideoOptions{}, progress.progress());
+    }
     if (result.outcome == VideoResult::Outcome::Failed)
         QMessageBox::warning(parent, QStringLiteral("Export Video"), result.error);
     else if (result.outcome == VideoResult::Outcome::Written && !result.warnings.isEmpty())

@@ -14,6 +14,7 @@ int main(int argc, char** argv) {
     PrepareRuntimeDir();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vitara Zentor"));
+    QApplication::setOrganizationName(QStringLiteral("Vitara")); // where the recent files live
 
     ProcessContext ctx = ProcessContext::create(QApplication::applicationDirPath());
     ctx.CommandLine = CommandLineFromArguments(QApplication::arguments().mid(1));

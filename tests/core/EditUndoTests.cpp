@@ -11,11 +11,6 @@ using Answer = Prompter::Answer;
 
 namespace {
 
-QByteArray Bytes(const Document& d) {
-    Document copy = d;
-    return SerializeScript(copy);
-}
-
 // Page 1 with image 1 at (100, 100, 50, 50) selected and text 1 beside it, all recorded.
 struct UndoFixture : EditorFixture {
     UndoFixture() {
@@ -75,16 +70,16 @@ TEST(EditUndo, EveryKindOfChangeIsOneNamedStepThatUndoesAndRedoesToTheSameBytes)
         SCOPED_TRACE(c.name);
         UndoFixture f;
         f.doc->Dirty = false;
-        const QByteArray before = Bytes(*f.doc);
+        const QByteArray before = SavedBytes(*f.doc);
         c.change(f);
-        const QByteArray after = Bytes(*f.doc);
+        const QByteArray after = SavedBytes(*f.doc);
         ASSERT_NE(before, after);
         EXPECT_EQ(f.editor.undoStack().undoName(), c.name);
         f.editor.undo();
-        EXPECT_EQ(Bytes(*f.doc), before);
+        EXPECT_EQ(SavedBytes(*f.doc), before);
         EXPECT_EQ(f.editor.undoStack().redoName(), c.name);
         f.editor.redo();
-        EXPECT_EQ(Bytes(*f.doc), after);
+        EXPECT_EQ(SavedBytes(*f.doc), after);
         EXPECT_TRUE(f.doc->Dirty);
         EXPECT_PROMPTS_DONE(f.prompter);
     }
@@ -120,7 +115,7 @@ TEST(EditUndo, ChangesWithOneMergeKeyAreOneStep) {
     auto doc = box.newDocument();
     doc->Images[1].TabNo = doc->Images[2].TabNo = 1; // in use, so saved
     UndoStack s;
-    const QByteArray start = Bytes(*doc);
+    const QByteArray start = SavedBytes(*doc);
     for (int i = 1; i <= 3; ++i) {
         const DocumentRecords before = RecordsOf(*doc);
         doc->Images[1].Left = i;
@@ -137,7 +132,7 @@ TEST(EditUndo, ChangesWithOneMergeKeyAreOneStep) {
     EXPECT_EQ(s.undoName(), "Move image 1");
     s.undo(*doc);
     EXPECT_FALSE(s.canUndo());
-    EXPECT_EQ(Bytes(*doc), start);
+    EXPECT_EQ(SavedBytes(*doc), start);
 }
 
 } // namespace
@@ -157,7 +152,7 @@ TEST(EditKeys, NudgesMoveTheSelectionWithTheDragClampsAndARunIsOneStep) {
     };
     for (const auto& c : cases) {
         UndoFixture f;
-        const QByteArray before = Bytes(*f.doc);
+        const QByteArray before = SavedBytes(*f.doc);
         for (int i = 0; i < c.presses; ++i)
             EXPECT_TRUE(f.editor.nudge(c.step.x, c.step.y));
         const ImageElement& e = f.doc->Images[1];
@@ -166,7 +161,7 @@ TEST(EditKeys, NudgesMoveTheSelectionWithTheDragClampsAndARunIsOneStep) {
         EXPECT_TRUE(f.doc->Dirty);
         EXPECT_EQ(f.editor.undoStack().undoName(), "Move image 1");
         f.editor.undo();
-        EXPECT_EQ(Bytes(*f.doc), before);
+        EXPECT_EQ(SavedBytes(*f.doc), before);
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "ScriptedPrompter.h"
 #include "TestSupport.h"
+#include "edit/ObjectClipboard.h"
+#include "edit/RecentFiles.h"
 #include "io/ScriptFile.h"
 #include "render/ResImages.h"
 
@@ -9,15 +11,20 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QSettings>
 #include <QTabBar>
 #include <QTest>
+#include <QUrl>
 
 namespace zentor::test {
 namespace {
@@ -493,6 +500,64 @@ TEST_F(WindowTest, WorkspaceKeysNudgeAndStepAndTheEditMenuUndoesByName) {
     QTest::keyClick(ws, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(state().CurrentRow, row);
     EXPECT_EQ(state().SelectedIndex, slot);
+}
+
+TEST_F(WindowTest, ClipboardKeysCopyPasteDuplicateAndCutThroughOurOwnType) {
+    const int slot = insertText({100, 100, 60, 20});
+    ws->setFocus();
+    QTest::keyClick(ws, Qt::Key_C, Qt::ControlModifier);
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    ASSERT_NE(data, nullptr);
+    EXPECT_TRUE(data->hasFormat(QString::fromLatin1(ObjectMimeType)));
+
+    QTest::keyClick(ws, Qt::Key_V, Qt::ControlModifier);
+    const int pasted = state().SelectedIndex;
+    EXPECT_NE(pasted, slot);
+    EXPECT_EQ(record(pasted), QRect(110, 110, 60, 20));
+    QTest::keyClick(ws, Qt::Key_D, Qt::ControlModifier);
+    const int duplicated = state().SelectedIndex;
+    EXPECT_EQ(record(duplicated), QRect(120, 120, 60, 20));
+
+    QTest::keyClick(ws, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(doc->Texts[duplicated].TabNo, 0);
+    QTest::keyClick(ws, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(doc->Texts[duplicated].TabNo, state().CurrentTab);
+}
+
+TEST_F(WindowTest, SavedProjectsHeadOpenRecentAndAMissingOneIsTakenOff) {
+    QSettings().remove(QStringLiteral("recentFiles"));
+    const QString path = sandbox.path(QStringLiteral("recent.qds"));
+    prompter.expectFile(true, "Save as QDV Script File", ScriptFilter, path);
+    find<QAction>("SubFile8")->trigger();
+    // Built afresh by the next window too: the list lives in the settings.
+    auto* recent = find<QMenu>("MenuRecent");
+    ASSERT_EQ(recent->actions().size(), 1);
+    EXPECT_EQ(recent->actions()[0]->text(), QStringLiteral("&1 ") + QDir::toNativeSeparators(path));
+
+    QFile::remove(path);
+    prompter.expectWarning("Open File", MissingRecentText(path));
+    recent->actions()[0]->trigger();
+    QTest::qWait(0);
+    EXPECT_TRUE(recent->actions().isEmpty());
+    EXPECT_FALSE(recent->isEnabled());
+}
+
+TEST_F(WindowTest, APictureDroppedOnAPageBecomesAPictureObjectThere) {
+    clickStrip(2);
+    const QString picture = sandbox.path(QStringLiteral("drop.png"));
+    ASSERT_TRUE(Solid(100, 80, 0xff2266aa).save(picture));
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(picture)});
+    const QPointF at = ws->mapTo(window.get(), QPoint(300, 200));
+    QDragEnterEvent enter(at.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window.get(), &drop);
+    EXPECT_EQ(state().SelectedKind, KindImage);
+    const ImageElement& e = doc->Images[state().SelectedIndex];
+    EXPECT_EQ(QRect(e.Left, e.Top, e.Width, e.Height), QRect(250, 160, 100, 80));
+    EXPECT_EQ(e.FileName.trimNull(), picture);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QStandardPaths>
 
 #include "model/ProcessContext.h"
 
@@ -10,6 +11,8 @@ int main(int argc, char** argv) {
     zentor::PrepareRuntimeDir();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vitara Zentor"));
+    // The user's own settings (recent files) stay out of reach.
+    QStandardPaths::setTestModeEnabled(true);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include "io/ScriptFile.h"
 #include "model/DefaultDocument.h"
 
 #include <QFile>
@@ -13,6 +14,11 @@ std::unique_ptr<Document> Sandbox::newDocument() const {
     auto doc = std::make_unique<Document>();
     NewDocument(*doc, ctx);
     return doc;
+}
+
+QByteArray SavedBytes(const Document& doc) {
+    Document copy = doc; // serializing recomputes the header's counts
+    return SerializeScript(copy);
 }
 
 QByteArray Padded(const QByteArray& text, int width) {

@@ -27,6 +27,8 @@ struct Sandbox {
 template <int N> QByteArray Bytes(const FixedString<N>& f) {
     return QByteArray(f.data(), N);
 }
+// The bytes a document would be saved as.
+QByteArray SavedBytes(const Document& doc);
 // Text blank-padded or cut to a field's width, as the file holds it.
 QByteArray Padded(const QByteArray& text, int width);
 // Little-endian 32-bit integer at a byte offset, read without the code under test.

@@ -42,18 +42,8 @@ void Editor::CommonModth(int index) {
     switch (index) {
     case CmdNew:
     case CmdOpen:
-        if (doc_.Dirty) {
-            const Prompter::Answer a = prompter_.ask(
-                index == CmdNew ? QStringLiteral("New File") : QStringLiteral("Open File"),
-                QStringLiteral("Do you want to save the work?"), Prompter::Buttons::YesNoCancel,
-                Prompter::Icon::Question, Prompter::Answer::No);
-            if (a == Prompter::Answer::Cancel)
-                return;
-            // Yes and then no save after all (dialog cancelled, disk refused): the work
-            // would be lost, so the command stops with everything as it was.
-            if (a == Prompter::Answer::Yes && !saveForQuestion())
-                return;
-        }
+        if (!keepWork(index == CmdNew ? QStringLiteral("New File") : QStringLiteral("Open File")))
+            return;
         newOrOpen(index);
         break;
     case CmdSave:
@@ -125,15 +115,28 @@ void Editor::endingSteps(int index) {
     view_.setStatusText(QStringLiteral("Ready"));
 }
 
-void Editor::newOrOpen(int index) {
+bool Editor::keepWork(const QString& title) {
+    if (!doc_.Dirty)
+        return true;
+    const Prompter::Answer a = prompter_.ask(title, QStringLiteral("Do you want to save the work?"),
+                                             Prompter::Buttons::YesNoCancel,
+                                             Prompter::Icon::Question, Prompter::Answer::No);
+    // Yes and then no save after all (dialog cancelled, disk refused): the work would be
+    // lost, so the command stops with everything as it was.
+    return a == Prompter::Answer::No || (a == Prompter::Answer::Yes && saveForQuestion());
+}
+
+void Editor::newOrOpen(int index, const QString& given) {
     if (index == CmdNew) {
         NewDocument(doc_, ctx_);
     } else {
         const QString path =
-            prompter_.chooseFile(false, QStringLiteral("Open QDV Script File"), ScriptFilter);
+            !given.isEmpty()
+                ? given
+                : prompter_.chooseFile(false, QStringLiteral("Open QDV Script File"), ScriptFilter);
         // Loaded over the current document: slots the file does not fill keep their objects.
-        if (!path.isEmpty())
-            LoadScript(doc_, path);
+        if (!path.isEmpty() && LoadScript(doc_, path).opened)
+            view_.projectFileUsed(doc_.ScriptPath);
     }
     sizeAndCentreWorkspace();
     applyStripCaptions();
@@ -174,6 +177,7 @@ bool Editor::save(bool alwaysAsk) {
     } else {
         lastSaveWritten_ = true;
         undo_.setClean();
+        view_.projectFileUsed(doc_.ScriptPath);
     }
     return true;
 }
@@ -182,8 +186,12 @@ void Editor::insert(int kind) {
     const int slot = InsertObject(doc_, kind, st_.CurrentTab);
     st_.SelectedKind = kind;
     st_.SelectedIndex = slot;
+    selectObject(kind, slot);
+}
+
+void Editor::selectObject(int kind, int slot) {
     LoadTab(st_.CurrentTab);
-    // LoadTab selected the page; now the new object's own row.
+    // LoadTab selected the page; now the object's own row.
     const int row = FindObjectRow(st_.ObjectMap, {kind, slot});
     if (row >= 0 && row < st_.Rows.size())
         selectRow(row);

@@ -1,5 +1,8 @@
 #include "edit/DeleteObject.h"
 
+#include "edit/ObjectClipboard.h"
+#include "edit/ObjectList.h"
+
 namespace zentor {
 
 bool DelObject(Document& doc, int kind, int slot, int currentTab, Prompter& prompter,
@@ -25,7 +28,7 @@ bool DelObject(Document& doc, int kind, int slot, int currentTab, Prompter& prom
         if (!prompter.askYesNo(QStringLiteral("Delete Image"),
                                sure + doc.Images[slot].Name.trimNull() + QStringLiteral("?")))
             return false;
-        doc.Images[slot] = doc.Images[0];
+        RemoveObject(doc, KindImage, slot);
         return true;
     case 2:
         if (slot < 0 || slot > MaxTexts)
@@ -33,7 +36,7 @@ bool DelObject(Document& doc, int kind, int slot, int currentTab, Prompter& prom
         if (!prompter.askYesNo(QStringLiteral("Delete Text"),
                                sure + doc.Texts[slot].Name.trimNull() + QStringLiteral("?")))
             return false;
-        doc.Texts[slot] = doc.Texts[0];
+        RemoveObject(doc, KindText, slot);
         return true;
     case 3:
         if (!prompter.askYesNo(QStringLiteral("Delete User Icon"),

@@ -28,7 +28,8 @@ void Editor::formLoad() {
             doc_.ScriptPath = QFileInfo(ctx_.CommandLine).absoluteFilePath();
         } else {
             // A file that cannot be read leaves the default document, silently.
-            LoadScript(doc_, ctx_.CommandLine);
+            if (LoadScript(doc_, ctx_.CommandLine).opened)
+                view_.projectFileUsed(doc_.ScriptPath);
             sizeAndCentreWorkspace();
         }
     }

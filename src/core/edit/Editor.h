@@ -8,6 +8,7 @@
 #include "model/ProcessContext.h"
 
 #include <functional>
+#include <optional>
 
 namespace zentor {
 
@@ -115,6 +116,33 @@ public:
     // Selects the next (previous) row of the page's object list, wrapping around.
     void selectNextObject(bool forward);
 
+    // --- Clipboard: bytes of ObjectMimeType ---
+    // The selected picture or text as clipboard bytes; empty when none is selected.
+    QByteArray copySelection() const;
+    // Copies, then takes the object off its page without a question; one step.
+    QByteArray cutSelection();
+    // Pastes onto the current page and selects the copy; one step. False when nothing came.
+    bool paste(QByteArrayView clip);
+    // A copy of the selection beside it, the clipboard left alone.
+    bool duplicate();
+
+    // --- Files from outside the menus ---
+    // Opens `path` as Open does, after the changed-document question.
+    void openProject(const QString& path);
+    // A recent file: a missing one is told and false comes back, so the list drops it.
+    bool openRecent(const QString& path);
+    // Files dropped on the window: a project opens; pictures dropped at `at` (workspace
+    // pixels, nothing when outside the page) on a content page become picture objects.
+    void dropFiles(const QStringList& paths, std::optional<IntPoint> at);
+
+    // --- Recovery ---
+    // At start: offers the work a run that did not end normally left behind.
+    void offerRecovery();
+    // Each minute: unsaved work goes to the recovery file, saved work takes it away.
+    void autosave();
+    // A normal exit: nothing is left to recover.
+    void discardRecovery();
+
     // --- In-place text editor ---
     void inPlaceTextChanged() { doc_.Dirty = true; }
     // Stores an open in-place edit into the selected text and closes the editor.
@@ -129,7 +157,11 @@ private:
     // Runs Save after a Yes to a question about unsaved work; true only when the file was
     // written, so the asking command may go on.
     bool saveForQuestion();
-    void newOrOpen(int index);
+    void newOrOpen(int index, const QString& path = {});
+    // The changed-document question of New and Open; false when the command must stop.
+    bool keepWork(const QString& title);
+    void selectObject(int kind, int slot);
+    bool pasteAs(const QString& verb, QByteArrayView clip);
     void insert(int kind);
     void step(bool next);
     void endingSteps(int index);

@@ -69,6 +69,8 @@ public:
     virtual void showSettings() = 0;
     virtual void showAbout() = 0;
     virtual void openUrl(const QString& url) = 0;
+    // A project file was opened or saved: it heads the recent files.
+    virtual void projectFileUsed(const QString& /*path*/) {}
 };
 
 } // namespace zentor

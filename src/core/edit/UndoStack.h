@@ -42,6 +42,8 @@ public:
     // The document was saved: this point of the history is the clean one.
     void setClean();
     bool isClean() const { return index_ == clean_; }
+    // The document matches no saved file (restored work): no point of the history is clean.
+    void markUnsaved() { clean_ = -1; }
     // A following change starts a step of its own even with the same merge key.
     void breakMerge() { mergeKey_.clear(); }
 

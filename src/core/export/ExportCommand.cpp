@@ -11,14 +11,21 @@
 namespace zentor {
 
 bool WriteExport(ExportKind kind, const Document& doc, const QString& path, const ResImages& res,
-                 const ProcessContext& ctx, QString* error) {
+                 const ProcessContext& ctx, QString* error, const Progress& progress) {
     const auto fail = [&](const QString& why) {
         if (error)
             *error = why;
         return false;
     };
-    const QByteArray bytes =
-        kind == ExportKind::Pdf ? RenderPdf(doc, res, ctx) : RenderWebPage(doc, res, ctx);
+    bool cancelled = false;
+    const Progress watched = [&](int page, int pages) {
+        cancelled = !GoOn(progress, page, pages);
+        return !cancelled;
+    };
+    const QByteArray bytes = kind == ExportKind::Pdf ? RenderPdf(doc, res, ctx, watched)
+                                                     : RenderWebPage(doc, res, ctx, watched);
+    if (cancelled)
+        return fail(QString());
     if (bytes.isEmpty())
         return fail(QStringLiteral("the frame size %1 x %2 cannot be drawn")
                         .arg(doc.Header.FrameWidth)
@@ -31,7 +38,7 @@ bool WriteExport(ExportKind kind, const Document& doc, const QString& path, cons
 }
 
 bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const ResImages& res,
-               const ProcessContext& ctx) {
+               const ProcessContext& ctx, const Progress& progress) {
     const bool pdf = kind == ExportKind::Pdf;
     const QString title = pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page");
     const QString ext = pdf ? QStringLiteral(".pdf") : QStringLiteral(".html");
@@ -46,10 +53,11 @@ bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const R
             title, QStringLiteral("This file already exists. Do you want to overwrite it?")))
         return false;
     QString error;
-    if (WriteExport(kind, doc, path, res, ctx, &error))
+    if (WriteExport(kind, doc, path, res, ctx, &error, progress))
         return true;
-    prompter.warn(title,
-                  QStringLiteral("Can't create file : ") + path + QStringLiteral("\n") + error);
+    if (!error.isEmpty())
+        prompter.warn(title,
+                      QStringLiteral("Can't create file : ") + path + QStringLiteral("\n") + error);
     return false;
 }
 

@@ -63,7 +63,8 @@ bool AddPdfAuthor(QByteArray& pdf, const QString& author) {
     return true;
 }
 
-QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx) {
+QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx,
+                     const Progress& progress) {
     const QSize frame = FrameSize(doc);
     if (frame.isEmpty())
         return QByteArray();
@@ -85,9 +86,13 @@ QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessCon
         // One cache for the whole file: a picture drawn twice at one size is embedded once.
         PictureCache cache;
         PrefetchPictures(doc, ctx, cache);
+        if (!GoOn(progress, 1, 8))
+            return QByteArray();
         PaintCover(p, doc, res, ctx, &cache);
         // The strip's order: Personal (tab 7) first, Overview (tab 1) last.
         for (int tab = 7; tab >= 1; --tab) {
+            if (!GoOn(progress, 9 - tab, 8))
+                return QByteArray();
             writer.newPage();
             PaintPage(p, doc, tab, res, &cache);
         }

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include "model/Progress.h"
+
 namespace zentor {
 
 struct Document;
@@ -14,8 +16,9 @@ class ResImages;
 // first, Overview last), every page at the frame's size (96 pixels to the inch) and painted
 // by the page painter, so texts are real text in embedded fonts and pictures are held
 // once each at the size they are drawn. Title and author name the person; the creator is
-// Vitara Zentor. Empty when the frame cannot be drawn.
-QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx);
+// Vitara Zentor. Empty when the frame cannot be drawn or `progress` cancelled (page n of 8).
+QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx,
+                     const Progress& progress = {});
 
 // Adds an author to the information dictionary of a PDF that has a classic cross-reference
 // table, moving the offsets after it. Returns false and leaves `pdf` alone when it has no

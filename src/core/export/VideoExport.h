@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "model/Progress.h"
+
 #include <functional>
 
 namespace zentor {
@@ -23,7 +25,7 @@ struct VideoResult {
 };
 
 // Called as the video moves into step `step` of `steps`; returning false cancels.
-using VideoProgress = std::function<bool(int step, int steps)>;
+using VideoProgress = Progress;
 
 // The video's size: the frame scaled to `height` keeping its aspect, both sides even.
 QSize VideoSize(QSize frame, int height);

@@ -123,7 +123,8 @@ QJsonObject HomeLayer(const Document& doc, const QByteArray& jpeg) {
 
 } // namespace
 
-QByteArray RenderWebPage(const Document& doc, const ResImages& res, const ProcessContext& ctx) {
+QByteArray RenderWebPage(const Document& doc, const ResImages& res, const ProcessContext& ctx,
+                         const Progress& progress) {
     if (FrameSize(doc).isEmpty())
         return QByteArray();
     // The eight pages and the home page are drawn side by side, as generating draws them.
@@ -142,9 +143,14 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     QJsonObject show = WebShowNumbers(doc);
     show.insert("title", PersonName(doc));
     QJsonObject pages;
-    for (int page = 1; page <= SlideShowTab; ++page)
+    for (int page = 1; page <= SlideShowTab; ++page) {
+        if (!GoOn(progress, page, SlideShowTab + 1))
+            return QByteArray();
         pages.insert(QString::number(page),
                      PageLayer(doc, page, pictures.take(size_t(page - 1)).value_or(QByteArray())));
+    }
+    if (!GoOn(progress, SlideShowTab + 1, SlideShowTab + 1))
+        return QByteArray();
     show.insert("home", HomeLayer(doc, pictures.take(SlideShowTab).value_or(QByteArray())));
     show.insert("pages", pages);
     QByteArray music;

@@ -44,6 +44,7 @@ public:
         : gen_(gen), doc_(doc), path_(path), file_(path) {}
 
     bool run(bool selfRun);
+    bool cancelled() const { return cancelled_; }
 
 private:
     bool fail() {
@@ -99,6 +100,7 @@ private:
     qint64 position_ = 1; // 1-based position of the next byte
     std::unique_ptr<Document> snapshot_;
     std::unique_ptr<PictureJobs> jobs_; // after snapshot_: its workers read the copy
+    bool cancelled_ = false;
 };
 
 bool ResumeGenerator::Writer::run(bool selfRun) {
@@ -162,6 +164,13 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
         !append(Package::MusicEntry, PackMusic, ResolvePath(doc_.ScriptPath, music)))
         return fail();
     for (int page = 1; page <= Package::PageCount; ++page) {
+        if (!GoOn(gen_.progress_, page, Package::PageCount)) {
+            cancelled_ = true;
+            jobs_.reset();
+            file_.remove(); // a cancelled run leaves no part of a package behind
+            QFile::remove(gen_.ctx_.TempImagePath);
+            return false;
+        }
         if (!appendPicture(Package::FirstPageEntry + page - 1, nextJob++))
             return fail();
         pictures.pageWritten(doc_, page);
@@ -209,7 +218,9 @@ ResumeGenerator::Outcome ResumeGenerator::writePackage(Document& doc, const QStr
     ctx_.ensureWorkFolder();
     Writer writer(*this, doc, path);
     try {
-        return writer.run(selfRun) ? Outcome::Written : Outcome::Failed;
+        if (writer.run(selfRun))
+            return Outcome::Written;
+        return writer.cancelled() ? Outcome::Cancelled : Outcome::Failed;
     } catch (const std::exception&) {
         // Out of memory while decoding or rendering ends like any other failure to write.
         prompter_.warn(WriteErrorTitle, QStringLiteral("Can't create file : ") + path);

@@ -4,6 +4,7 @@
 #include "generate/PackagePictures.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
+#include "model/Progress.h"
 
 #include <QByteArray>
 #include <QString>
@@ -35,6 +36,9 @@ public:
     // The last position a package may address (a signed 32-bit position). Tests lower it.
     void setPositionLimit(qint64 limit) { positionLimit_ = limit; }
 
+    // Told before each of the eight pages; a cancelled run removes what it wrote.
+    void setProgress(Progress progress) { progress_ = std::move(progress); }
+
     // The whole command: asks for the output path (adding the extension unless the name
     // ends in it exactly), confirms overwriting, deletes the old file and writes the package.
     Outcome GenerateResume(Document& doc, bool selfRun);
@@ -60,6 +64,7 @@ private:
     QByteArray player_;
     bool parallel_ = false;
     qint64 positionLimit_ = std::numeric_limits<int32_t>::max();
+    Progress progress_;
 };
 
 } // namespace zentor

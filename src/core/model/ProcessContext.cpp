@@ -52,12 +52,16 @@ int RemoveStaleWorkFolders(const QString& tempDir, const QString& program) {
         const qint64 pid = rest.section(QLatin1Char('-'), 0, 0).toLongLong(&ok);
         if (!ok || pid <= 0 || !rest.contains(QLatin1Char('-')))
             continue;
-        if (::kill(pid_t(pid), 0) == 0 || errno != ESRCH)
-            continue; // alive, or not ours to ask about
+        if (!ProcessGone(pid))
+            continue;
         if (QDir(withSlash(tempDir) + name).removeRecursively())
             ++removed;
     }
     return removed;
+}
+
+bool ProcessGone(qint64 pid) {
+    return ::kill(pid_t(pid), 0) != 0 && errno == ESRCH;
 }
 
 void PrepareRuntimeDir() {

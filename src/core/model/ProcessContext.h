@@ -34,6 +34,9 @@ QString PrivateWorkTemplate(const QString& tempDir, const QString& program);
 // returns how many it removed. Folders of live processes are left alone.
 int RemoveStaleWorkFolders(const QString& tempDir, const QString& program);
 
+// True when no process `pid` runs any more (a live one, or one not ours to ask about, is not gone).
+bool ProcessGone(qint64 pid);
+
 // Qt warns on every start when XDG_RUNTIME_DIR is unset (as under CI): gives the process a
 // private one first. Call before creating the application object.
 void PrepareRuntimeDir();

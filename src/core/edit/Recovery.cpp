@@ -1,0 +1,101 @@
+#include "edit/Recovery.h"
+
+#include "io/ScriptFile.h"
+#include "model/DefaultDocument.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <unistd.h>
+
+namespace zentor {
+
+namespace {
+
+const QString Prefix = QStringLiteral("recovery-");
+
+QString PathFileOf(const QString& recovery) {
+    return recovery.chopped(4) + QStringLiteral(".path");
+}
+
+bool WriteAtomically(const QString& path, const QByteArray& bytes) {
+    QSaveFile f(path);
+    return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() && f.commit();
+}
+
+void RemoveFiles(const QString& recovery) {
+    QFile::remove(recovery);
+    QFile::remove(PathFileOf(recovery));
+}
+
+} // namespace
+
+QString RecoveryFile(const ProcessContext& ctx, qint64 pid) {
+    return ctx.WorkFolder + Prefix + QString::number(pid) + QStringLiteral(".qds");
+}
+
+bool Autosave(const Document& doc, const ProcessContext& ctx) {
+    const QString file = RecoveryFile(ctx, getpid());
+    if (!doc.Dirty) {
+        RemoveFiles(file);
+        return false;
+    }
+    Document copy = doc; // serializing recomputes the counts into the header
+    // The path first: a recovery file never stands without it.
+    return ctx.ensureWorkFolder() && WriteAtomically(PathFileOf(file), doc.ScriptPath.toUtf8()) &&
+           WriteAtomically(file, SerializeScript(copy));
+}
+
+void RemoveRecovery(const ProcessContext& ctx) {
+    RemoveFiles(RecoveryFile(ctx, getpid()));
+}
+
+QStringList LeftBehindRecovery(const ProcessContext& ctx) {
+    QStringList found;
+    const QFileInfoList files =
+        QDir(ctx.WorkFolder)
+            .entryInfoList({Prefix + QStringLiteral("*.qds")}, QDir::Files, QDir::Time);
+    for (const QFileInfo& f : files) {
+        bool ok = false;
+        const qint64 pid = f.completeBaseName().mid(Prefix.size()).toLongLong(&ok);
+        if (ok && pid > 0 && ProcessGone(pid))
+            found << f.filePath();
+    }
+    return found;
+}
+
+bool OfferRecovery(Document& doc, const ProcessContext& ctx, Prompter& prompter) {
+    const QStringList found = LeftBehindRecovery(ctx);
+    if (found.isEmpty())
+        return false;
+    const bool restore =
+        prompter.ask(QStringLiteral("Recover Work"),
+                     QStringLiteral("Vitara Zentor did not end normally last time. Do you want "
+                                    "to restore the work it had not saved?"),
+                     Prompter::Buttons::YesNo, Prompter::Icon::Question,
+                     Prompter::Answer::Yes) == Prompter::Answer::Yes;
+    bool restored = false;
+    if (restore) {
+        QFile f(found.first());
+        if (f.open(QIODevice::ReadOnly)) {
+            const QByteArray bytes = f.readAll();
+            QFile pathFile(PathFileOf(found.first()));
+            const QString path = pathFile.open(QIODevice::ReadOnly)
+                                     ? QString::fromUtf8(pathFile.readAll())
+                                     : QString();
+            NewDocument(doc, ctx);
+            LoadScriptBytes(doc, bytes);
+            doc.ScriptPath = path;
+            doc.Dirty = true;
+            restored = true;
+        }
+    }
+    // Older ones are earlier states of lost runs: offering them one by one helps nobody.
+    for (const QString& f : found)
+        RemoveFiles(f);
+    return restored;
+}
+
+} // namespace zentor

@@ -1,0 +1,178 @@
+#include "EditFakeView.h"
+#include "edit/DropFiles.h"
+#include "edit/ObjectList.h"
+#include "edit/RecentFiles.h"
+#include "edit/Recovery.h"
+#include "io/ScriptFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace zentor;
+using namespace zentor::test;
+using Answer = Prompter::Answer;
+
+namespace {
+
+QString Picture(const Sandbox& box, const char* name, int w, int h) {
+    const QString path = box.path(QLatin1String(name));
+    Solid(w, h, 0xff336699).save(path, "PNG");
+    return path;
+}
+
+TEST(DropFiles, APictureIsFittedToHalfThePageCentredOnThePointAndKeptOnThePage) {
+    const struct {
+        QSize size;
+        IntPoint at;
+        IntRect expected;
+    } cases[] = {
+        {{100, 50}, {400, 300}, {350, 275, 100, 50}},    // small: as it is
+        {{1600, 400}, {400, 300}, {200, 250, 400, 100}}, // wide: half the width
+        {{300, 1200}, {400, 300}, {363, 150, 75, 300}},  // tall: half the height
+        {{100, 100}, {790, 5}, {700, 0, 100, 100}},      // at a corner: pushed in
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(DroppedPictureRect(c.size, c.at, 800, 600), c.expected)
+            << c.size.width() << "x" << c.size.height();
+}
+
+TEST(DropFiles, AProjectWinsAndOnlyReadablePicturesComeOtherwise) {
+    Sandbox box;
+    const QString png = Picture(box, "a.png", 20, 10);
+    const QString text = box.path(QStringLiteral("notes.txt"));
+    WriteAll(text, "not a picture");
+    const QString fifo = box.path(QStringLiteral("pipe.png"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+    const QString project = box.path(QStringLiteral("cv.QDS"));
+
+    const DropPlan mixed = PlanDrop({png, text, fifo, png});
+    EXPECT_TRUE(mixed.project.isEmpty());
+    EXPECT_EQ(mixed.pictures, QStringList({png, png}));
+    const DropPlan withProject = PlanDrop({png, project, text});
+    EXPECT_EQ(withProject.project, project);
+    EXPECT_TRUE(withProject.pictures.isEmpty());
+}
+
+TEST(DropFiles, PicturesOnAContentPageAreOneStepAndElsewhereNothing) {
+    EditorFixture f;
+    const QString a = Picture(f.box, "a.png", 200, 100);
+    const QString b = Picture(f.box, "b.png", 40, 40);
+    const QByteArray clean = SavedBytes(*f.doc);
+    f.editor.dropFiles({a}, IntPoint{400, 300}); // the profile page
+    f.showTab(2);
+    f.editor.dropFiles({a}, std::nullopt); // beside the page
+    EXPECT_EQ(SavedBytes(*f.doc), clean);
+
+    f.editor.dropFiles({a, b}, IntPoint{400, 300});
+    EXPECT_EQ(f.doc->Images[1].FileName.trimNull(), a);
+    EXPECT_EQ(f.doc->Images[2].TabNo, 2);
+    EXPECT_EQ(f.doc->Images[2].Left, 390); // the next one 10 pixels on
+    EXPECT_EQ(f.editor.state().SelectedIndex, 2);
+    EXPECT_EQ(f.editor.undoStack().undoName(), QStringLiteral("Drop 2 pictures"));
+    f.editor.undo();
+    EXPECT_EQ(SavedBytes(*f.doc), clean);
+    EXPECT_FALSE(f.doc->Dirty);
+}
+
+TEST(DropFiles, ADroppedProjectOpensAfterTheChangedDocumentQuestion) {
+    EditorFixture f;
+    auto other = f.box.newDocument();
+    other->Profile.FirstName = QStringLiteral("Ada");
+    const QString path = f.box.path(QStringLiteral("other.qds"));
+    ASSERT_TRUE(SaveScript(*other, path));
+    f.doc->Dirty = true;
+    f.prompter.expectYesNoCancel(QStringLiteral("Open File"),
+                                 QStringLiteral("Do you want to save the work?"), Answer::No);
+    f.editor.dropFiles({path}, std::nullopt);
+    EXPECT_EQ(f.doc->Profile.FirstName.trimNull(), QStringLiteral("Ada"));
+    EXPECT_EQ(f.doc->ScriptPath, path);
+    EXPECT_FALSE(f.doc->Dirty);
+    EXPECT_PROMPTS_DONE(f.prompter);
+}
+
+TEST(RecentFiles, TheLatestComesFirstOnceEightAreKeptAndAMissingOneIsTold) {
+    QStringList list;
+    for (int i = 1; i <= 9; ++i)
+        list = WithRecentFile(list, QStringLiteral("/p/%1.qds").arg(i));
+    EXPECT_EQ(list.size(), 8);
+    EXPECT_EQ(list.first(), QStringLiteral("/p/9.qds"));
+    EXPECT_EQ(list.last(), QStringLiteral("/p/2.qds"));
+    list = WithRecentFile(list, QStringLiteral("/p/5.qds"));
+    EXPECT_EQ(list.mid(0, 3), QStringList({"/p/5.qds", "/p/9.qds", "/p/8.qds"}));
+    EXPECT_EQ(list.count(QStringLiteral("/p/5.qds")), 1);
+    EXPECT_TRUE(WithRecentFile({}, QStringLiteral("rel.qds")).first().startsWith('/'));
+
+    EditorFixture f;
+    const QString gone = f.box.path(QStringLiteral("gone.qds"));
+    f.prompter.expectWarning(QStringLiteral("Open File"), MissingRecentText(gone));
+    EXPECT_FALSE(f.editor.openRecent(gone)); // the menu drops it
+    EXPECT_PROMPTS_DONE(f.prompter);
+}
+
+// A recovery file as a run with process `pid` would have left it.
+void LeaveRecovery(const Sandbox& box, const Document& doc, qint64 pid) {
+    const QString ours = RecoveryFile(box.ctx, getpid());
+    ASSERT_TRUE(Autosave(doc, box.ctx));
+    ASSERT_TRUE(QFile::rename(ours, RecoveryFile(box.ctx, pid)));
+    ASSERT_TRUE(
+        QFile::rename(ours.chopped(4) + ".path", RecoveryFile(box.ctx, pid).chopped(4) + ".path"));
+}
+
+TEST(Recovery, AutosaveKeepsOnlyUnsavedWorkAndAnExitRemovesIt) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    const QString file = RecoveryFile(box.ctx, getpid());
+    for (bool dirty : {true, false, true}) {
+        doc->Dirty = dirty;
+        EXPECT_EQ(Autosave(*doc, box.ctx), dirty);
+        EXPECT_EQ(ReadAll(file), dirty ? SavedBytes(*doc) : QByteArray());
+    }
+    EXPECT_TRUE(LeftBehindRecovery(box.ctx).isEmpty()); // our own run is alive
+    RemoveRecovery(box.ctx);
+    EXPECT_TRUE(QDir(box.ctx.WorkFolder).entryList(QDir::Files).isEmpty());
+}
+
+TEST(Recovery, WorkOfARunThatIsGoneIsOfferedAndRemovedWhateverTheAnswer) {
+    const qint64 gonePid = 999999999; // beyond any pid the system hands out
+    for (Answer answer : {Answer::Yes, Answer::No}) {
+        SCOPED_TRACE(answer == Answer::Yes ? "Yes" : "No");
+        EditorFixture f;
+        auto lost = f.box.newDocument();
+        lost->Profile.FirstName = QStringLiteral("Grace");
+        PlaceText(*lost, 4, 3, QRect(5, 5, 50, 20), QStringLiteral("unsaved"));
+        lost->ScriptPath = f.box.path(QStringLiteral("cv.qds"));
+        lost->Dirty = true;
+        LeaveRecovery(f.box, *lost, gonePid);
+        const QByteArray fresh = SavedBytes(*f.doc);
+
+        f.prompter.expectAsk(QStringLiteral("Recover Work"),
+                             QStringLiteral("Vitara Zentor did not end normally last time. Do you "
+                                            "want to restore the work it had not saved?"),
+                             answer);
+        f.editor.offerRecovery();
+        EXPECT_PROMPTS_DONE(f.prompter);
+        if (answer == Answer::Yes) {
+            EXPECT_EQ(SavedBytes(*f.doc), SavedBytes(*lost));
+            EXPECT_EQ(f.doc->ScriptPath, lost->ScriptPath);
+            EXPECT_TRUE(f.doc->Dirty);
+            // Restored work is unsaved even after an edit is taken back.
+            f.showTab(3);
+            f.editor.menuCommand(CmdInsertText);
+            f.editor.undo();
+            EXPECT_TRUE(f.doc->Dirty);
+        } else {
+            EXPECT_EQ(SavedBytes(*f.doc), fresh);
+            EXPECT_FALSE(f.doc->Dirty);
+        }
+        EXPECT_TRUE(QDir(f.box.ctx.WorkFolder).entryList(QDir::Files).isEmpty());
+        f.editor.offerRecovery(); // asked once only
+        EXPECT_PROMPTS_DONE(f.prompter);
+    }
+}
+
+} // namespace
