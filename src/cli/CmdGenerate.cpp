@@ -10,6 +10,7 @@
 #include "render/ResImages.h"
 
 #include "PlayerStub.h"
+#include "WinPlayerStub.h"
 
 #include <QFile>
 
@@ -46,15 +47,20 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
                     ExitUsage);
     const QString project = args.positional[0];
     const QString out = args.positional[1];
-    // Naming a player asks for a self-running file; only the Linux player is built so far.
+    // Naming a player asks for a self-running file; a self-running file is for Windows
+    // unless the Linux player is asked for.
     const QString player = args.options.value(QStringLiteral("--player"));
-    if (!player.isEmpty() && player != QLatin1String("linux"))
-        return Fail(player == QLatin1String("windows")
-                        ? QStringLiteral("this build has no Windows player; use --player linux")
-                        : QStringLiteral("unknown player \"%1\"; use linux or windows").arg(player),
+    if (!player.isEmpty() && player != QLatin1String("linux") && player != QLatin1String("windows"))
+        return Fail(QStringLiteral("unknown player \"%1\"; use linux or windows").arg(player),
                     ExitUsage);
     const bool selfRun = !player.isEmpty() || args.has(QStringLiteral("--selfrun")) ||
                          out.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive);
+    const QByteArray playerBytes = !selfRun                           ? QByteArray()
+                                   : player == QLatin1String("linux") ? PlayerStub()
+                                                                      : WindowsPlayerStub();
+    if (selfRun && playerBytes.isEmpty())
+        return Fail(QStringLiteral("this build has no Windows player; use --player linux"),
+                    ExitUsage);
     const bool strict = args.has(QStringLiteral("--strict"));
 
     LoadReport report;
@@ -111,7 +117,7 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
     ResumeGenerator gen(ctx, prompter, rendered);
     gen.setParallel(true);
     if (selfRun)
-        gen.setPlayer(PlayerStub());
+        gen.setPlayer(playerBytes);
     // Strict runs write beside the target first, so a refusal leaves an older file untouched.
     const QString target = strict ? out + QStringLiteral(".part") : out;
     if (gen.writePackage(*doc, target, selfRun) != ResumeGenerator::Outcome::Written) {

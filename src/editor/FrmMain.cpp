@@ -21,6 +21,7 @@
 
 #ifdef ZENTOR_HAVE_PLAYER
 #include "PlayerStub.h"
+#include "WinPlayerStub.h"
 #endif
 
 #include <QAction>
@@ -89,8 +90,12 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     generator_->setParallel(true);
     editor_.setGenerator([this, check](bool selfRun) {
 #ifdef ZENTOR_HAVE_PLAYER
-        if (selfRun)
-            generator_->setPlayer(PlayerStub());
+        // Whoever double-clicks an .exe runs Windows; a build without the Windows player
+        // writes the Linux one rather than nothing.
+        if (selfRun) {
+            const QByteArray windows = WindowsPlayerStub();
+            generator_->setPlayer(windows.isEmpty() ? PlayerStub() : windows);
+        }
 #endif
         ProgressRun run(this, selfRun ? QStringLiteral("Generate Selfrun File")
                                       : QStringLiteral("Generate QDV File"));

@@ -1,38 +1,49 @@
 #pragma once
 
-#include "generate/PackageReader.h"
+#include "show/ShowModel.h"
+#include "show/ShowPictures.h"
 
-#include <QImage>
+#include <QElapsedTimer>
 #include <QRasterWindow>
-#include <QString>
+#include <QTimer>
 
-#include <vector>
+#include <functional>
 
 namespace zentor {
 
-// Shows a package's pages one at a time, each scaled to fit the window on black.
-// Right, Down, Space, Page Down or a click go on; Left, Up, Page Up go back; Home and End
-// jump; Escape quits.
+class MusicOut;
+
+// Carries out the show model full screen: paints what it says on a steady clock, redraws
+// when the picture next changes (about 60 times a second only while a fade runs), and
+// passes keys, clicks on the ring and on contact links to it.
 class PlayerWindow : public QRasterWindow {
 public:
-    explicit PlayerWindow(const PackageContents& package);
-    int pageCount() const { return int(pages_.size()); }
+    // `startMusic` runs once the first frame is on screen, so that setting up the sound
+    // never delays the picture; it returns where the music goes (or nullptr).
+    PlayerWindow(const ShowPictures& pictures, const show::ShowSettings& settings,
+                 std::function<MusicOut*()> startMusic);
 
 protected:
     void paintEvent(QPaintEvent*) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void show(int page);
+    int64_t now() const { return clock_.elapsed(); }
+    bool onHome() const;
+    QPoint toFrame(QPointF pos) const;
+    void react(show::ShowReaction r);
+    void schedule();
 
-    struct Page {
-        QImage image;
-        QString name;
-    };
-    std::vector<Page> pages_;
-    QString owner_;
-    int current_ = 0;
+    const ShowPictures& pictures_;
+    show::ShowModel model_;
+    std::function<MusicOut*()> startMusic_;
+    MusicOut* music_ = nullptr;
+    QElapsedTimer clock_;
+    QTimer tick_;
+    show::IconRectTable ring_;
+    int hover_ = 0;
 };
 
 } // namespace zentor

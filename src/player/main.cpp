@@ -1,10 +1,14 @@
-// zentor-player [PACKAGE] [--info] [--export DIR]
+// zentor-player [PACKAGE] [--info] [--export DIR] [--frame MS OUT.png]
 // Without PACKAGE it reads the package inside its own file, after the player's bytes.
 
 #include "PlayerWindow.h"
+#include "QtMusicOut.h"
 
 #include "generate/PackageReader.h"
 #include "model/ProcessContext.h"
+#include "render/ResImages.h"
+#include "show/MusicOut.h"
+#include "show/ShowPictures.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,6 +17,7 @@
 #include <QScreen>
 
 #include <cstdio>
+#include <memory>
 
 using namespace zentor;
 
@@ -26,6 +31,8 @@ int fail(const QString& message, int status = 1) {
 struct Options {
     QString package;
     QString exportDir;
+    QString frameOut;
+    qint64 frameMs = -1;
     bool info = false;
     bool help = false;
     QString error;
@@ -39,7 +46,13 @@ Options parse(int argc, char** argv) {
             o.info = true;
         else if (a == QLatin1String("--export") && i + 1 < argc)
             o.exportDir = QString::fromLocal8Bit(argv[++i]);
-        else if (a == QLatin1String("--help") || a == QLatin1String("-h"))
+        else if (a == QLatin1String("--frame") && i + 2 < argc) {
+            bool ok = false;
+            o.frameMs = QString::fromLocal8Bit(argv[++i]).toLongLong(&ok);
+            o.frameOut = QString::fromLocal8Bit(argv[++i]);
+            if (!ok || o.frameMs < 0)
+                o.error = QStringLiteral("--frame takes a time in ms (0 or more) and a PNG path");
+        } else if (a == QLatin1String("--help") || a == QLatin1String("-h"))
             o.help = true;
         else if (a.startsWith(QLatin1String("--")) || !o.package.isEmpty())
             o.error = QStringLiteral("unexpected argument \"%1\"").arg(a);
@@ -72,12 +85,28 @@ int exportTo(const PackageContents& package, const QString& dirPath) {
     return 0;
 }
 
+// The built-in background a package without its own shows on its home page.
+QByteArray DefaultBackground() {
+    QFile file(QStringLiteral(":/home/bakpic.jpg"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Writes what the window shows `ms` after opening with no input, at the frame's size.
+int writeFrame(const ShowPictures& pictures, const PackageContents& package, qint64 ms,
+               const QString& out) {
+    const show::ShowModel model(show::ShowSettingsOf(package.Info.Header), 0, pictures.showOrder());
+    const QImage frame = PaintShowFrame(pictures, model.at(ms), pictures.frame());
+    if (!frame.save(out, "PNG"))
+        return fail(QStringLiteral("cannot write %1").arg(out));
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     const Options options = parse(argc, argv);
-    const bool headless =
-        options.info || !options.exportDir.isEmpty() || options.help || !options.error.isEmpty();
+    const bool headless = options.info || !options.exportDir.isEmpty() || options.frameMs >= 0 ||
+                          options.help || !options.error.isEmpty();
     if (headless || !hasDisplay())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     PrepareRuntimeDir();
@@ -85,7 +114,8 @@ int main(int argc, char** argv) {
     if (options.help || !options.error.isEmpty()) {
         if (!options.error.isEmpty())
             fail(options.error);
-        std::fputs("usage: zentor-player [PACKAGE] [--info] [--export DIR]\n", stderr);
+        std::fputs("usage: zentor-player [PACKAGE] [--info] [--export DIR] [--frame MS OUT.png]\n",
+                   stderr);
         return options.help ? 0 : 2;
     }
 
@@ -109,14 +139,23 @@ int main(int argc, char** argv) {
     if (!options.exportDir.isEmpty())
         if (const int status = exportTo(package, options.exportDir))
             return status;
+    const ResImages res = ResImages::load();
+    const ShowPictures pictures(package, res, DefaultBackground());
+    if (options.frameMs >= 0)
+        if (const int status = writeFrame(pictures, package, options.frameMs, options.frameOut))
+            return status;
     if (headless)
         return package.Problems.isEmpty() ? 0 : 1;
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
         return fail(QStringLiteral("no display to show the résumé on; use --info or --export DIR"));
 
-    PlayerWindow window(package);
-    if (window.pageCount() == 0)
-        return fail(QStringLiteral("%1 holds no page that can be shown").arg(path));
+    // Music that cannot be played leaves the show silent, never stopped.
+    std::unique_ptr<QtMusicOut> music;
+    PlayerWindow window(pictures, show::ShowSettingsOf(package.Info.Header), [&]() -> MusicOut* {
+        music = std::make_unique<QtMusicOut>();
+        StartMusic(*music, package);
+        return music.get();
+    });
     // Full screen needs a window manager's help; the geometry makes it fill without one.
     window.setGeometry(window.screen()->geometry());
     window.showFullScreen();

@@ -1,8 +1,6 @@
 #include "PackageData.h"
 
 #include <cstring>
-#include <fstream>
-#include <iterator>
 
 namespace zentor::show {
 namespace {
@@ -115,23 +113,6 @@ std::string PackageFile::blob(int entry) const {
     if (r.Length <= 0 || r.Offset + r.Length > int64_t(Bytes.size()))
         return std::string();
     return std::string(Bytes.data() + r.Offset, size_t(r.Length));
-}
-
-bool ReadPackageFile(const std::string& path, PackageForm form, PackageFile& out,
-                     std::string& error) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        error = "cannot open " + path;
-        return false;
-    }
-    std::vector<char> bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (in.bad()) {
-        error = "cannot read " + path;
-        return false;
-    }
-    out.Bytes = std::move(bytes);
-    out.Info = ParsePackage(out.Bytes.data(), out.Bytes.size(), form);
-    return true;
 }
 
 } // namespace zentor::show

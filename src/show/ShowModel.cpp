@@ -3,6 +3,7 @@
 #include "Ring.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace zentor::show {
 
@@ -35,7 +36,42 @@ int OrderIndexOf(int picture) {
     return -1;
 }
 
-ShowModel::ShowModel(const ShowSettings& settings, int64_t openedAtMs) : settings_(settings) {
+std::vector<int> ShowOrder(const std::array<bool, Package::EntryCount>& empty) {
+    std::vector<int> order;
+    for (int entry : PageOrder)
+        if (!empty[size_t(entry)])
+            order.push_back(entry);
+    return order;
+}
+
+bool IsFlatPicture(const uint32_t* pixels, int width, int height, int stride, int tolerance) {
+    if (!pixels || width <= 0 || height <= 0)
+        return false;
+    const uint32_t first = pixels[0];
+    const auto near = [tolerance](uint32_t a, uint32_t b, int shift) {
+        return std::abs(int((a >> shift) & 0xFF) - int((b >> shift) & 0xFF)) <= tolerance;
+    };
+    for (int y = 0; y < height; ++y) {
+        const uint32_t* row = pixels + size_t(y) * size_t(stride);
+        for (int x = 0; x < width; ++x)
+            if (!near(row[x], first, 0) || !near(row[x], first, 8) || !near(row[x], first, 16))
+                return false;
+    }
+    return true;
+}
+
+int ShowModel::orderIndexOf(int picture) const {
+    for (size_t i = 0; i < order_.size(); ++i)
+        if (order_[i] == picture)
+            return int(i);
+    return -1;
+}
+
+ShowModel::ShowModel(const ShowSettings& settings, int64_t openedAtMs)
+    : ShowModel(settings, openedAtMs, std::vector<int>(PageOrder.begin(), PageOrder.end())) {}
+
+ShowModel::ShowModel(const ShowSettings& settings, int64_t openedAtMs, std::vector<int> order)
+    : settings_(settings), order_(std::move(order)) {
     // The opening picture is there at once, not faded in from nothing.
     stillSince_ = openedAtMs - settings_.FadeMs;
     if (settings_.AutoRun)
@@ -53,7 +89,7 @@ double ShowModel::fade(int64_t sinceMs) const {
 }
 
 bool ShowModel::running(int64_t nowMs) const {
-    const int64_t length = int64_t(Package::PageCount - anchor_) * settings_.HoldMs;
+    const int64_t length = int64_t(pageCount() - anchor_) * settings_.HoldMs;
     return running_ && showClock(nowMs) < length;
 }
 
@@ -61,12 +97,12 @@ ScreenState ShowModel::at(int64_t nowMs) const {
     if (!running_)
         return {still_, stillPrevious_, fade(nowMs - stillSince_)};
     const int64_t elapsed = std::max<int64_t>(0, showClock(nowMs));
-    const int last = Package::PageCount - 1;
+    const int last = pageCount() - 1;
     const int index = int(std::min<int64_t>(anchor_ + elapsed / settings_.HoldMs, last + 1));
     const int64_t within = elapsed - int64_t(index - anchor_) * settings_.HoldMs;
-    const int previous = index == anchor_ ? anchorPrevious_ : PageOrder[size_t(index - 1)];
+    const int previous = index == anchor_ ? anchorPrevious_ : order_[size_t(index - 1)];
     // After the last page the show goes back home.
-    const int picture = index > last ? HomePicture : PageOrder[size_t(index)];
+    const int picture = index > last ? HomePicture : order_[size_t(index)];
     return {picture, previous, fade(within)};
 }
 
@@ -85,9 +121,9 @@ int64_t ShowModel::nextChangeMs(int64_t nowMs) const {
 void ShowModel::settle(int64_t nowMs) {
     if (!running_ || running(nowMs))
         return;
-    const int64_t length = int64_t(Package::PageCount - anchor_) * settings_.HoldMs;
+    const int64_t length = int64_t(pageCount() - anchor_) * settings_.HoldMs;
     still_ = HomePicture;
-    stillPrevious_ = PageOrder.back();
+    stillPrevious_ = order_.empty() ? HomePicture : order_.back();
     stillSince_ = showStart_ + pausedTotal_ + length;
     running_ = false;
     pausedAt_ = -1;
@@ -117,8 +153,8 @@ void ShowModel::runFrom(int index, int64_t nowMs) {
 
 void ShowModel::step(int delta, int64_t nowMs) {
     const bool wasRunning = running_;
-    const int next = OrderIndexOf(at(nowMs).Picture) + delta;
-    const int count = Package::PageCount;
+    const int next = orderIndexOf(at(nowMs).Picture) + delta;
+    const int count = pageCount();
     if (wasRunning) {
         if (next < 0 || next >= count)
             showStill(HomePicture, nowMs);
@@ -127,12 +163,12 @@ void ShowModel::step(int delta, int64_t nowMs) {
         return;
     }
     // Still pictures page round through the home page: home, first .. last, home.
-    if (next < -1)
-        showStill(PageOrder.back(), nowMs);
+    if (next < -1 && count > 0)
+        showStill(order_.back(), nowMs);
     else if (next < 0 || next >= count)
         showStill(HomePicture, nowMs);
     else
-        showStill(PageOrder[size_t(next)], nowMs);
+        showStill(order_[size_t(next)], nowMs);
 }
 
 ShowReaction ShowModel::key(ShowKey k, int64_t nowMs) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
 namespace zentor::show {
 
@@ -39,6 +40,17 @@ inline constexpr std::array<int, Package::PageCount> PageOrder = {17, 16, 15, 14
 // Position of a picture in PageOrder; -1 for the home page or an unknown entry.
 int OrderIndexOf(int picture);
 
+// The show's pages: PageOrder without the pages that hold nothing (`empty` by package
+// entry, 11..18), which the show and paging pass over.
+std::vector<int> ShowOrder(const std::array<bool, Package::EntryCount>& empty);
+
+// Whether a decoded picture (32-bit pixels, 0xAARRGGBB, `stride` pixels a row) is one flat
+// colour, each channel within `tolerance` of the first pixel: a page that holds nothing.
+// JPEG leaves a little noise even on a flat page; text and pictures leave far more.
+inline constexpr int FlatTolerance = 8;
+bool IsFlatPicture(const uint32_t* pixels, int width, int height, int stride,
+                   int tolerance = FlatTolerance);
+
 // The package entry of a tab's page (1..8).
 inline constexpr int PageEntryOfTab(int tab) {
     return Package::FirstPageEntry + tab - 1;
@@ -64,6 +76,8 @@ enum class ShowReaction { None, Redraw, Quit };
 class ShowModel {
 public:
     ShowModel(const ShowSettings& settings, int64_t openedAtMs);
+    // A show of the given pages (package entries, in order) instead of all of PageOrder.
+    ShowModel(const ShowSettings& settings, int64_t openedAtMs, std::vector<int> order);
 
     ScreenState at(int64_t nowMs) const;
     bool running(int64_t nowMs) const; // the slide show is on, paused or not
@@ -87,8 +101,11 @@ private:
     void showStill(int picture, int64_t nowMs);
     void runFrom(int index, int64_t nowMs);
     void step(int delta, int64_t nowMs);
+    int pageCount() const { return int(order_.size()); }
+    int orderIndexOf(int picture) const;
 
     ShowSettings settings_;
+    std::vector<int> order_;
     // Shown without the show running.
     int still_ = HomePicture;
     int stillPrevious_ = HomePicture;

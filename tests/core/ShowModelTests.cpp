@@ -193,6 +193,58 @@ TEST(ShowModelTest, InputMovesTheShow) {
     }
 }
 
+// Pages that hold nothing are left out of the show and of paging.
+TEST(ShowModelTest, EmptyPagesArePassedOver) {
+    std::array<bool, Package::EntryCount> empty{};
+    for (int entry : {16, 14, 13, 12, 11})
+        empty[size_t(entry)] = true;
+    const std::vector<int> order = ShowOrder(empty);
+    ASSERT_EQ(order, (std::vector<int>{17, 15, 18}));
+    struct Case {
+        int asRun;
+        std::vector<Input> inputs;
+        int64_t t;
+        int picture;
+    } cases[] = {
+        {1, {}, 1500, 17},
+        {1, {}, 7500, 15},
+        {1, {}, 14500, 18},
+        {1, {}, 21500, Home},
+        {0, {key(10, ShowKey::Left)}, 20, 18},
+        {0, {key(10, ShowKey::Right), key(20, ShowKey::Right)}, 30, 15},
+        {0, {click(10, 8), key(20, ShowKey::PageDown)}, 7020, 18},
+        {0, {click(10, 4), key(20, ShowKey::Right)}, 30, 17}, // a clicked empty page shows
+    };
+    for (const Case& c : cases) {
+        ShowModel m(ShowSettingsOf(header(0, c.asRun, 7000)), 0, order);
+        for (const Input& in : c.inputs)
+            in.kind == Input::Key ? m.key(in.key, in.t) : m.clickIcon(in.icon, in.t);
+        EXPECT_EQ(m.at(c.t).Picture, c.picture) << c.t;
+    }
+    // Nothing to show: the show ends at once.
+    const ShowModel none(ShowSettingsOf(header(0, 1, 7000)), 0, {});
+    EXPECT_EQ(none.at(100).Picture, Home);
+}
+
+TEST(ShowModelTest, FlatPicturesAreEmptyPages) {
+    const uint32_t white = 0xFFFFFFFFu;
+    struct Case {
+        std::vector<uint32_t> pixels; // 3 x 2, a stride of 4 (the last of a row is padding)
+        bool flat;
+    } cases[] = {
+        {{white, white, white, 0, white, white, white, 0}, true},
+        {{white, 0xFFF8F9FAu, white, 0, 0xFFFAF7FFu, white, white, 0}, true}, // JPEG noise
+        {{white, white, white, 0, white, white, 0xFFF0FFFFu, 0}, false},
+        {{0xFF102030u, 0xFF102030u, 0xFF102030u, 0, 0xFF102030u, 0xFF10202Au, 0xFF102030u, 0},
+         true},
+        {{0xFF102030u, 0xFF102030u, 0xFF102030u, 0, 0xFF102030u, 0xFF102030u, 0xFF102055u, 0},
+         false},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(IsFlatPicture(c.pixels.data(), 3, 2, 4), c.flat);
+    EXPECT_FALSE(IsFlatPicture(nullptr, 3, 2, 4));
+}
+
 TEST(ShowModelTest, EscapeOnHomeQuitsAndMTogglesMute) {
     ShowModel m(ShowSettingsOf(header(20, 0, 7000)), 0);
     EXPECT_EQ(m.key(ShowKey::M, 10), ShowReaction::Redraw);

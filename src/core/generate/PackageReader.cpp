@@ -3,6 +3,7 @@
 #include "io/FileUtil.h"
 #include "io/ProjectJson.h"
 #include "io/RecordCodec.h"
+#include "show/BlobName.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -79,44 +80,8 @@ QJsonObject PackageToJson(const PackageContents& p) {
     return root;
 }
 
-namespace {
-
-QString sniffExtension(const QByteArray& b) {
-    if (b.startsWith("\xff\xd8\xff"))
-        return QStringLiteral("jpg");
-    if (b.startsWith("\x89PNG\r\n\x1a\n"))
-        return QStringLiteral("png");
-    if (b.startsWith(QByteArrayView("\0\0\1\0", 4)))
-        return QStringLiteral("ico");
-    if (b.startsWith("BM"))
-        return QStringLiteral("bmp");
-    if (b.startsWith("GIF8"))
-        return QStringLiteral("gif");
-    if (b.startsWith("ID3") ||
-        (b.size() >= 2 && uchar(b[0]) == 0xff && (uchar(b[1]) & 0xe0) == 0xe0))
-        return QStringLiteral("mp3");
-    return QStringLiteral("bin");
-}
-
-} // namespace
-
 QString BlobFileName(int entry, const QByteArray& bytes) {
-    QString what;
-    if (entry == Package::UserIconEntry)
-        what = QStringLiteral("usericon");
-    else if (entry >= Package::FirstTabIconEntry && entry <= Package::LastTabIconEntry)
-        what = QStringLiteral("tabicon");
-    else if (entry == Package::BackPictureEntry)
-        what = QStringLiteral("background");
-    else if (entry == Package::MusicEntry)
-        what = QStringLiteral("music");
-    else if (entry >= Package::FirstPageEntry)
-        what = QStringLiteral("page%1").arg(entry - Package::FirstPageEntry + 1);
-    else
-        what = QStringLiteral("unused");
-    return QStringLiteral("%1-%2.%3")
-        .arg(entry, 2, 10, QLatin1Char('0'))
-        .arg(what, sniffExtension(bytes));
+    return QString::fromLatin1(show::BlobFileName(entry, bytes.constData(), size_t(bytes.size())));
 }
 
 } // namespace zentor

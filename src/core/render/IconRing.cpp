@@ -1,16 +1,12 @@
 #include "render/IconRing.h"
 
-#include "io/FileUtil.h"
-#include "model/Document.h"
-#include "render/PageCompositor.h"
 #include "render/PictureCache.h"
-#include "render/ResImages.h"
-#include "render/TabPictureLayout.h"
 #include "show/Ring.h"
 
 #include <QPainter>
 
 namespace zentor {
+
 IconRectTable IconRects(QSize frame) {
     const show::IconRectTable ring = show::RingRects(frame.width(), frame.height());
     IconRectTable rects{};
@@ -19,18 +15,11 @@ IconRectTable IconRects(QSize frame) {
     return rects;
 }
 
-IconRectTable GetCircle(QPainter& p, Document& doc, const ResImages& res, PictureCache* cache) {
-    const IconRectTable rects = IconRects(FrameSize(doc));
-    for (int i = 1; i <= 8; ++i) {
-        const IconRect& r = rects[size_t(i)];
-        const QRect box(r.Left, r.Top, r.Right - r.Left, r.Bottom - r.Top);
-        auto& icon = doc.Tabs[size_t(i)].Icon;
-        const QString path = icon.text();
-        icon = path;
-        if (path.isEmpty())
-            DrawStretched(p, res.image(i), box);
-        else
-            DrawPictureFile(p, ResolvePath(doc.ScriptPath, path), box, cache);
+IconRectTable GetCircle(QPainter& p, QSize frame, const std::array<QImage, 9>& icons) {
+    const IconRectTable rects = IconRects(frame);
+    for (size_t i = 1; i <= 8; ++i) {
+        const IconRect& r = rects[i];
+        DrawStretched(p, icons[i], QRect(r.Left, r.Top, r.Right - r.Left, r.Bottom - r.Top));
     }
     return rects;
 }

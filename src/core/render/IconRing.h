@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QSize>
 
 #include <array>
@@ -7,10 +8,6 @@
 class QPainter;
 
 namespace zentor {
-
-struct Document;
-class PictureCache;
-class ResImages;
 
 // One rectangle of the profile page's icon ring, edges as left, top, right, bottom.
 struct IconRect {
@@ -27,8 +24,8 @@ using IconRectTable = std::array<IconRect, 9>;
 
 IconRectTable IconRects(QSize frame);
 
-// Draws the eight tab icons of the ring (a tab's own icon file, else its built-in picture)
-// and returns the rectangles. Writes each tab's Icon back cut at the first NUL.
-IconRectTable GetCircle(QPainter& p, Document& doc, const ResImages& res, PictureCache* cache);
+// Draws the eight icons of the ring (1..8; a null picture is left out) stretched to their
+// rectangles and returns the rectangles.
+IconRectTable GetCircle(QPainter& p, QSize frame, const std::array<QImage, 9>& icons);
 
 } // namespace zentor

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "show/ShowFrame.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QRect>
@@ -16,7 +18,7 @@ class ResImages;
 
 // Frames larger than this on a side are refused (a damaged header must not allocate
 // gigabytes); so is anything below 1.
-inline constexpr int MaxFrameSide = 16384;
+inline constexpr int MaxFrameSide = show::MaxFrameSide;
 
 // The frame of the document, or an empty size when it is not a sane one.
 QSize FrameSize(const Document& doc);

@@ -115,10 +115,16 @@ void DrawStretched(QPainter& p, const QImage& image, const QRect& rect) {
     p.restore();
 }
 
+QImage PictureFor(const QString& path, QSize drawSize, PictureCache* cache) {
+    if (path.isEmpty())
+        return QImage();
+    return cache ? cache->picture(path, drawSize) : LoadPicture(path, drawSize);
+}
+
 bool DrawPictureFile(QPainter& p, const QString& path, const QRect& rect, PictureCache* cache) {
     if (path.isEmpty() || rect.width() <= 0 || rect.height() <= 0)
         return false;
-    const QImage img = cache ? cache->picture(path, rect.size()) : LoadPicture(path, rect.size());
+    const QImage img = PictureFor(path, rect.size(), cache);
     if (img.isNull())
         return false;
     DrawStretched(p, img, rect);

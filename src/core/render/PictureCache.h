@@ -59,6 +59,10 @@ private:
     qint64 maxBytes_;
 };
 
+// The picture at `path` decoded for drawing at drawSize, through the cache when one is
+// given; null for an empty path or an unreadable file.
+QImage PictureFor(const QString& path, QSize drawSize, PictureCache* cache);
+
 // Loads `path` (through the cache when one is given) and draws it stretched over `rect`,
 // smoothly. Draws nothing for an unreadable file or an empty rectangle. Returns whether
 // something was drawn.

@@ -2,6 +2,7 @@
 
 #include "io/FileUtil.h"
 
+#include <QBuffer>
 #include <QImageReader>
 
 #include <algorithm>
@@ -43,28 +44,8 @@ void PickLargestIcon(QImageReader& reader) {
     reader.jumpToImage(best);
 }
 
-} // namespace
-
-QSize ReadPictureSize(const QString& path) {
-    if (!IsRegularFile(path))
-        return QSize(0, 0);
-    QImageReader reader(path);
-    Prepare(reader);
-    if (reader.format() == "ico")
-        PickLargestIcon(reader);
-    QSize s = reader.size();
-    if (!s.isValid()) {
-        // Some formats only know their size after decoding.
-        const QImage img = reader.read();
-        s = img.size();
-    }
-    return SaneSize(s) ? s : QSize(0, 0);
-}
-
-QImage LoadPicture(const QString& path, QSize drawSize) {
-    if (!IsRegularFile(path))
-        return QImage();
-    QImageReader reader(path);
+// Decodes what the reader holds as LoadPicture describes.
+QImage Decode(QImageReader& reader, QSize drawSize) {
     Prepare(reader);
     if (!reader.canRead())
         return QImage();
@@ -92,6 +73,41 @@ QImage LoadPicture(const QString& path, QSize drawSize) {
     else if (!img.hasAlphaChannel() && img.format() != QImage::Format_RGB32)
         img.convertTo(QImage::Format_RGB32);
     return img;
+}
+
+} // namespace
+
+QSize ReadPictureSize(const QString& path) {
+    if (!IsRegularFile(path))
+        return QSize(0, 0);
+    QImageReader reader(path);
+    Prepare(reader);
+    if (reader.format() == "ico")
+        PickLargestIcon(reader);
+    QSize s = reader.size();
+    if (!s.isValid()) {
+        // Some formats only know their size after decoding.
+        const QImage img = reader.read();
+        s = img.size();
+    }
+    return SaneSize(s) ? s : QSize(0, 0);
+}
+
+QImage LoadPicture(const QString& path, QSize drawSize) {
+    if (!IsRegularFile(path))
+        return QImage();
+    QImageReader reader(path);
+    return Decode(reader, drawSize);
+}
+
+QImage LoadPictureData(const QByteArray& bytes, QSize drawSize) {
+    if (bytes.isEmpty())
+        return QImage();
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    return Decode(reader, drawSize);
 }
 
 } // namespace zentor

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QSize>
 #include <QString>
@@ -19,5 +20,8 @@ QSize ReadPictureSize(const QString& path);
 // drawn in each direction where the format can (JPEG decodes scaled), and never smaller,
 // so stretching it to drawSize loses nothing. Returns a null image when unreadable.
 QImage LoadPicture(const QString& path, QSize drawSize = QSize());
+
+// The same for a picture held in memory (a package's blob).
+QImage LoadPictureData(const QByteArray& bytes, QSize drawSize = QSize());
 
 } // namespace zentor

@@ -5,6 +5,7 @@
 #include "model/Document.h"
 #include "model/ProcessContext.h"
 #include "render/DrawPicture.h"
+#include "render/HomePage.h"
 #include "render/PageCompositor.h"
 #include "render/PictureCache.h"
 #include "render/ResImages.h"
@@ -49,39 +50,55 @@ void PaintBackground(const PictureSurfaces& s, Document& doc, const ProcessConte
                 QRect(), cache);
 }
 
-void PaintProfile(QPainter& p, const PictureSurfaces& s, Document& doc, int hoverIcon,
-                  const ResImages& res, PictureCache* cache, IconRectTable* iconRects) {
-    const QSize frame = s.workspaceSize;
-    const IconRectTable rects = GetCircle(p, doc, res, cache);
-    if (iconRects)
-        *iconRects = rects;
+// The profile page's pictures from the project's files, with what drawing them always
+// wrote back: the background path, the tab icons and the user icon cut at the first NUL.
+HomePictures ProfilePictures(Document& doc, QSize frame, const ResImages& res,
+                             const ProcessContext& ctx, PictureCache* cache) {
+    HomePictures pics;
+    const QString back = doc.Header.BackPicture.text();
+    doc.Header.BackPicture = back;
+    pics.background = PictureFor(
+        ResolvePath(doc.ScriptPath, (back.isEmpty() ? ctx.defaultBackPicture() : back).trimmed()),
+        frame, cache);
+    const IconRectTable rects = IconRects(frame);
+    for (int i = 1; i <= 8; ++i) {
+        const IconRect& r = rects[size_t(i)];
+        auto& icon = doc.Tabs[size_t(i)].Icon;
+        const QString path = icon.text();
+        icon = path;
+        pics.icons[size_t(i)] = path.isEmpty()
+                                    ? res.image(i)
+                                    : PictureFor(ResolvePath(doc.ScriptPath, path),
+                                                 QSize(r.Right - r.Left, r.Bottom - r.Top), cache);
+    }
+    const QString user = doc.Profile.UserIcon.text();
+    doc.Profile.UserIcon = user;
+    pics.userIcon = user.isEmpty() ? res.image(ResLogo)
+                                   : PictureFor(ResolvePath(doc.ScriptPath, user.trimmed()),
+                                                QSize(128, 128), cache);
+    return pics;
+}
 
-    QString caption;
+void PaintProfile(QPainter& p, Document& doc, QSize frame, int hoverIcon, const ResImages& res,
+                  const ProcessContext& ctx, PictureCache* cache, IconRectTable* iconRects) {
+    const HomePictures pics = ProfilePictures(doc, frame, res, ctx, cache);
+    // Only the caption shown is trimmed and stored back.
+    std::array<QString, 9> names;
+    QString person;
     if (hoverIcon >= 1 && hoverIcon <= MaxTab) {
         auto& name = doc.Tabs[size_t(hoverIcon)].Name;
         name = name.trimmed();
-        caption = name.text().trimmed(); // shown up to a NUL a damaged file may hold
+        names[size_t(hoverIcon)] = name.text(); // shown up to a NUL a damaged file may hold
     } else {
         ProfileRecord& pr = doc.Profile;
         pr.FirstName = pr.FirstName.trimmed();
         pr.LastName = pr.LastName.trimmed();
-        caption = pr.FirstName.text().trimmed() + QLatin1Char(' ') + pr.LastName.text().trimmed();
+        person = pr.FirstName.text().trimmed() + QLatin1Char(' ') + pr.LastName.text().trimmed();
     }
-    DrawFontText(p, caption, 0, RoundHalfEven(frame.height() / 2.0) + 80, frame.width(), 24,
-                 QStringLiteral("Arial"), 12, 0, 1, 0, 0xFFFFFFFFu, -1, 4, 1);
-
-    DrawStretched(p, res.image(ResBorder),
-                  QRect(RoundHalfEven((frame.width() - 144) / 2.0),
-                        RoundHalfEven((frame.height() - 144) / 2.0), 144, 144));
-
-    const QRect iconBox(RoundHalfEven((frame.width() - 128) / 2.0),
-                        RoundHalfEven((frame.height() - 128) / 2.0), 128, 128);
-    const QString icon = doc.Profile.UserIcon.text();
-    doc.Profile.UserIcon = icon;
-    if (icon.isEmpty())
-        DrawStretched(p, res.image(ResLogo), iconBox);
-    else
-        DrawPicture(s, doc, icon, PictureInRect, 0, 0, iconBox, cache);
+    const IconRectTable rects =
+        PaintHomePage(p, frame, pics, HomeCaption(names, person, hoverIcon), res);
+    if (iconRects)
+        *iconRects = rects;
 }
 
 QImage WhiteSquare() {
@@ -108,8 +125,7 @@ QImage PaintWorkspace(Document& doc, int tab, int hoverIcon, const ResImages& re
     if (tab == SlideShowTab) {
         PaintBackground(s, doc, ctx, cache);
     } else if (tab == ProfileTab) {
-        PaintBackground(s, doc, ctx, cache);
-        PaintProfile(p, s, doc, hoverIcon, res, cache, iconRects);
+        PaintProfile(p, doc, frame, hoverIcon, res, ctx, cache, iconRects);
     } else {
         PaintContentTab(p, s, doc, tab, cache);
     }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "render/IconRing.h"
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+#include <array>
+
+class QPainter;
+
+namespace zentor {
+
+class ResImages;
+
+// The pictures of a home page, each already chosen by the caller (from the project's files
+// in the editor, from the package's blobs in the player). A null picture leaves its place
+// undrawn, as a missing file does.
+struct HomePictures {
+    QImage background;           // stretched over the whole frame
+    std::array<QImage, 9> icons; // 1..8: the ring's icons; 0 unused
+    QImage userIcon;             // the 128 x 128 centre picture
+};
+
+// The caption under the centre: the hovered tab's name (1..8, trimmed), else the person's
+// name.
+QString HomeCaption(const std::array<QString, 9>& tabNames, const QString& personName,
+                    int hoverIcon);
+
+// Paints the profile page on a frame-sized surface: background, the ring of tab icons,
+// the caption (white with a shadow), the border and the user icon. Returns the ring's
+// rectangles. The editor's profile page and the player's home page are this one function.
+IconRectTable PaintHomePage(QPainter& p, QSize frame, const HomePictures& pictures,
+                            const QString& caption, const ResImages& res);
+
+} // namespace zentor

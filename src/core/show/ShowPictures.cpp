@@ -1,0 +1,191 @@
+#include "show/ShowPictures.h"
+
+#include "model/CodePage.h"
+#include "model/DefaultDocument.h"
+#include "render/HomePage.h"
+#include "render/PageCompositor.h"
+#include "render/PictureCache.h"
+#include "render/PictureLoader.h"
+#include "show/ShowFrame.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace zentor {
+namespace {
+
+QString Decoded(const std::string& bytes) {
+    return CodePage::active().decode(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
+}
+
+QRect ToRect(const show::IconRect& r) {
+    return QRect(r.Left, r.Top, r.Right - r.Left, r.Bottom - r.Top);
+}
+
+// The contact lines: white over a dark shadow like the caption, links underlined, each
+// cut with an ellipsis where it does not fit its line.
+void PaintContacts(QPainter& p, const show::HomeLayout& layout) {
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(layout.FontPixelSize);
+    for (const show::HomeLine& line : layout.Lines) {
+        font.setUnderline(!line.Link.empty());
+        p.setFont(font);
+        const QRect box = ToRect(line.Rect);
+        const QString text =
+            QFontMetrics(font).elidedText(Decoded(line.Text), Qt::ElideRight, box.width());
+        p.setPen(QColor(0, 0, 0, 160));
+        p.drawText(box.translated(1, 1), Qt::AlignCenter, text);
+        p.setPen(Qt::white);
+        p.drawText(box, Qt::AlignCenter, text);
+    }
+}
+
+quint64 CacheKey(int picture, int hover, QSize size) {
+    return (quint64(picture + 1) << 40) | (quint64(hover) << 36) | (quint64(size.width()) << 18) |
+           quint64(size.height());
+}
+
+// The frame a damaged header cannot make enormous.
+QSize SaneFrame(const show::ShowHeader& h) {
+    const show::FrameSize f = show::FrameOf(h);
+    return QSize(f.Width, f.Height);
+}
+
+// A page that holds nothing comes out one flat colour. A quarter of the size is decoded
+// (JPEG scales while decoding), enough to keep the smallest text. A page that cannot be
+// decoded is not called empty: the show keeps its place.
+bool IsEmptyPage(const QByteArray& blob, QSize frame) {
+    const QImage small = LoadPictureData(blob, (frame / 4).expandedTo(QSize(1, 1)))
+                             .convertToFormat(QImage::Format_RGB32);
+    return !small.isNull() &&
+           show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()), small.width(),
+                               small.height(), int(small.bytesPerLine() / 4));
+}
+
+} // namespace
+
+ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
+                           const QByteArray& defaultBackground)
+    : res_(res), frame_(SaneFrame(package.Info.Header)), defaultBackground_(defaultBackground) {
+    const uint32_t c = uint32_t(package.Header.BackColor); // 0x00BBGGRR
+    backColor_ = qRgb(int(c & 0xFF), int((c >> 8) & 0xFF), int((c >> 16) & 0xFF));
+    for (int entry = 0; entry < Package::EntryCount; ++entry)
+        blobs_[size_t(entry)] = package.blob(entry);
+    for (int tab = 1; tab <= Package::TabNameCount; ++tab)
+        tabNames_[size_t(tab)] = package.TabNames[size_t(tab - 1)].text();
+    tabNames_[8] = QString::fromLatin1(show::SlideShowTabName);
+    person_ = package.Profile.FirstName.text().trimmed() + QLatin1Char(' ') +
+              package.Profile.LastName.text().trimmed();
+    contacts_ = show::LayoutHome(package.Info.Profile, frame_.width(), frame_.height());
+    std::array<bool, Package::EntryCount> empty{};
+    for (int entry : show::PageOrder)
+        empty[size_t(entry)] = IsEmptyPage(blobs_[size_t(entry)], frame_);
+    order_ = show::ShowOrder(empty);
+}
+
+QString ShowPictures::tabName(int icon) const {
+    return icon >= 1 && icon <= 8 ? tabNames_[size_t(icon)].trimmed() : QString();
+}
+
+QImage ShowPictures::paintHome(int hoverIcon) const {
+    // A carried picture that cannot be decoded gives way to the built-in one.
+    const auto carried = [this](int entry, QSize size, const QImage& builtIn) {
+        const QImage img = LoadPictureData(blobs_[size_t(entry)], size);
+        return img.isNull() ? builtIn : img;
+    };
+    HomePictures pics;
+    pics.background =
+        carried(Package::BackPictureEntry, frame_, LoadPictureData(defaultBackground_, frame_));
+    pics.icons[1] = res_.image(1);
+    for (int tab = Package::FirstTabIconEntry; tab <= Package::LastTabIconEntry; ++tab)
+        pics.icons[size_t(tab)] = carried(tab, QSize(80, 80), res_.image(tab));
+    pics.userIcon = carried(Package::UserIconEntry, QSize(128, 128), res_.image(ResLogo));
+
+    QImage canvas(frame_, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(0xFFFFFFFFu);
+    QPainter p(&canvas);
+    PaintHomePage(p, frame_, pics, HomeCaption(tabNames_, person_, hoverIcon), res_);
+    PaintContacts(p, contacts_);
+    p.end();
+    return canvas.convertToFormat(QImage::Format_RGB32);
+}
+
+QImage ShowPictures::decodePage(int entry) const {
+    QImage img = LoadPictureData(blobs_[size_t(entry)], frame_);
+    if (img.isNull()) {
+        img = QImage(frame_, QImage::Format_RGB32);
+        img.fill(backColor_);
+    } else if (img.size() != frame_) {
+        img = img.scaled(frame_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    return img.convertToFormat(QImage::Format_RGB32);
+}
+
+QImage ShowPictures::picture(int picture, int hoverIcon) const {
+    return scaled(picture, hoverIcon, frame_);
+}
+
+QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
+    // Every home page picture is one, told apart only by the caption of the hovered icon.
+    const bool home = picture < Package::FirstPageEntry || picture >= Package::EntryCount;
+    const int hover = home && hoverIcon >= 1 && hoverIcon <= 8 ? hoverIcon : 0;
+    if (home)
+        picture = show::HomePicture;
+    const quint64 key = CacheKey(picture, hover, size);
+    {
+        std::lock_guard lock(mutex_);
+        const auto it = cache_.constFind(key);
+        if (it != cache_.constEnd())
+            return *it;
+    }
+    const QImage img = size == frame_
+                           ? (home ? paintHome(hover) : decodePage(picture))
+                           : scaled(picture, hover, frame_)
+                                 .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    std::lock_guard lock(mutex_);
+    // Besides the frame-sized pictures, scaled ones are kept for one size at a time: the
+    // window's, or the video's.
+    const quint64 sizeBits = (quint64(1) << 36) - 1;
+    const quint64 frameSize = CacheKey(0, 0, frame_) & sizeBits;
+    for (auto it = cache_.begin(); it != cache_.end();) {
+        const quint64 itSize = it.key() & sizeBits;
+        if (itSize != (key & sizeBits) && itSize != frameSize)
+            it = cache_.erase(it);
+        else
+            ++it;
+    }
+    cache_.insert(key, img);
+    return img;
+}
+
+QRect FrameTarget(QSize frame, QSize size) {
+    const QSize fitted = frame.scaled(size, Qt::KeepAspectRatio);
+    return QRect(QPoint((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2),
+                 fitted);
+}
+
+QImage PaintShowFrame(const ShowPictures& pictures, const show::ScreenState& state, QSize size,
+                      int hoverIcon) {
+    if (size.isEmpty())
+        return QImage();
+    const QRect target = FrameTarget(pictures.frame(), size);
+    const double alpha = std::clamp(state.Alpha, 0.0, 1.0);
+    const QImage top = pictures.scaled(state.Picture, hoverIcon, target.size());
+    if (alpha >= 1.0 && target.size() == size)
+        return top; // a still frame is the cached picture itself
+    QImage out(size, QImage::Format_RGB32);
+    QPainter p(&out);
+    if (target.size() != size)
+        p.fillRect(out.rect(), pictures.backColor());
+    if (alpha < 1.0)
+        p.drawImage(target.topLeft(), pictures.scaled(state.Previous, hoverIcon, target.size()));
+    p.setOpacity(alpha);
+    p.drawImage(target.topLeft(), top);
+    p.end();
+    return out;
+}
+
+} // namespace zentor

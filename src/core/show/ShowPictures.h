@@ -1,0 +1,74 @@
+#pragma once
+
+#include "generate/PackageReader.h"
+#include "render/ResImages.h"
+#include "show/HomeLayout.h"
+#include "show/ShowModel.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QImage>
+#include <QRgb>
+#include <QSize>
+#include <QString>
+
+#include <array>
+#include <mutex>
+#include <vector>
+
+namespace zentor {
+
+// What a player shows of one package, decoded once and kept: the page pictures, the home
+// page painted for each hovered ring icon, and both scaled to the sizes asked for. Safe to
+// share between threads (one lock around the caches).
+class ShowPictures {
+public:
+    // `defaultBackground` is the encoded picture the home page shows when the package
+    // carries no background of its own (or one that cannot be decoded).
+    ShowPictures(const PackageContents& package, const ResImages& res,
+                 const QByteArray& defaultBackground);
+
+    // The package's frame (800 x 600 when its header's is not a sane one).
+    QSize frame() const { return frame_; }
+    // The colour around the frame when it is shown in a window of another shape.
+    QRgb backColor() const { return backColor_; }
+    const show::HomeLayout& contacts() const { return contacts_; }
+    // The pages the show runs through: those that hold something (see IsFlatPicture).
+    const std::vector<int>& showOrder() const { return order_; }
+    // The name the home page shows while the pointer is over ring icon 1..8.
+    QString tabName(int icon) const;
+
+    // The picture of a ScreenState (HomePicture or a page entry) at frame size; the home
+    // page with `hoverIcon`'s caption. A page that cannot be decoded is the back colour.
+    QImage picture(int picture, int hoverIcon = 0) const;
+    // The same scaled to `size` (smoothly), kept for the next frame.
+    QImage scaled(int picture, int hoverIcon, QSize size) const;
+
+private:
+    QImage paintHome(int hoverIcon) const;
+    QImage decodePage(int entry) const;
+
+    const ResImages& res_;
+    QSize frame_;
+    QRgb backColor_ = 0xFF000000u;
+    std::array<QByteArray, 19> blobs_;
+    QByteArray defaultBackground_;
+    std::array<QString, 9> tabNames_;
+    QString person_;
+    show::HomeLayout contacts_;
+    std::vector<int> order_;
+
+    mutable std::mutex mutex_;
+    mutable QHash<quint64, QImage> cache_; // (picture, hover, size) -> image
+};
+
+// The window's picture of `state` at `size`: Previous, then Picture over it at Alpha, the
+// frame scaled to fit `size` keeping its shape, centred on the back colour. The player's
+// window, --frame, the video and the web page's comparison all draw through this.
+QImage PaintShowFrame(const ShowPictures& pictures, const show::ScreenState& state, QSize size,
+                      int hoverIcon = 0);
+
+// Where the frame lies in a surface of `size`: scaled to fit, centred.
+QRect FrameTarget(QSize frame, QSize size);
+
+} // namespace zentor

@@ -1,0 +1,259 @@
+#include "PlayerWindow.h"
+
+#include "Text.h"
+
+#include <shellapi.h>
+
+#include <algorithm>
+
+namespace show = zentor::show;
+
+namespace winplayer {
+namespace {
+
+constexpr UINT_PTR ShowTimer = 1;
+constexpr int FadeStepMs = 15;
+
+bool keyOf(WPARAM key, show::ShowKey& out) {
+    switch (key) {
+    case VK_ESCAPE:
+        out = show::ShowKey::Escape;
+        return true;
+    case VK_LEFT:
+        out = show::ShowKey::Left;
+        return true;
+    case VK_RIGHT:
+        out = show::ShowKey::Right;
+        return true;
+    case VK_UP:
+        out = show::ShowKey::Up;
+        return true;
+    case VK_DOWN:
+        out = show::ShowKey::Down;
+        return true;
+    case VK_PRIOR:
+        out = show::ShowKey::PageUp;
+        return true;
+    case VK_NEXT:
+        out = show::ShowKey::PageDown;
+        return true;
+    case VK_SPACE:
+        out = show::ShowKey::Space;
+        return true;
+    case VK_F5:
+        out = show::ShowKey::F5;
+        return true;
+    case 'M':
+        out = show::ShowKey::M;
+        return true;
+    }
+    return false;
+}
+
+int64_t counterNow() {
+    LARGE_INTEGER t;
+    QueryPerformanceCounter(&t);
+    return t.QuadPart;
+}
+
+} // namespace
+
+PlayerWindow::PlayerWindow(const show::PackageFile& package, Scene& scene)
+    : package_(package), scene_(scene),
+      model_(show::ShowSettingsOf(package.Info.Header), 0, scene.order()) {
+    LARGE_INTEGER f;
+    QueryPerformanceFrequency(&f);
+    frequency_ = std::max<int64_t>(1, f.QuadPart);
+}
+
+int64_t PlayerWindow::now() const {
+    return counterNow() * 1000 / frequency_;
+}
+
+int PlayerWindow::run(HINSTANCE instance, int show) {
+    WNDCLASSW cls = {};
+    cls.lpfnWndProc = proc;
+    cls.hInstance = instance;
+    cls.hCursor = LoadCursor(nullptr, IDC_ARROW);
+    cls.lpszClassName = L"ZentorPlayer";
+    RegisterClassW(&cls);
+    const show::ShowProfile& p = package_.Info.Profile;
+    const std::wstring title = fromAnsi(p.FirstName) + L" " + fromAnsi(p.LastName);
+    // The show's clock starts when the window opens.
+    model_ = show::ShowModel(show::ShowSettingsOf(package_.Info.Header), now(), scene_.order());
+    window_ = CreateWindowExW(0, cls.lpszClassName, title.c_str(), WS_POPUP, 0, 0,
+                              GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), nullptr,
+                              nullptr, instance, this);
+    if (!window_)
+        return 1;
+    music_ = std::make_unique<Music>(package_, show::MusicSettingsOf(package_.Info), window_);
+    ShowWindow(window_, show == SW_HIDE ? SW_SHOW : show);
+    SetForegroundWindow(window_);
+    schedule();
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    music_.reset();
+    return int(message.wParam);
+}
+
+LRESULT CALLBACK PlayerWindow::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        auto* self =
+            static_cast<PlayerWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        SetWindowLongPtrW(window, GWLP_USERDATA, LONG_PTR(self));
+        self->window_ = window;
+    }
+    auto* self = reinterpret_cast<PlayerWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    return self ? self->handle(message, wParam, lParam)
+                : DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT PlayerWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_KEYDOWN:
+        key(wParam);
+        return 0;
+    case WM_MOUSEMOVE:
+        pointerAt(short(LOWORD(lParam)), short(HIWORD(lParam)));
+        return 0;
+    case WM_LBUTTONUP:
+        click(short(LOWORD(lParam)), short(HIWORD(lParam)));
+        return 0;
+    case WM_SETCURSOR:
+        if (LOWORD(lParam) == HTCLIENT) {
+            SetCursor(LoadCursor(nullptr, hover_ >= 1 || link_ >= 0 ? IDC_HAND : IDC_ARROW));
+            return TRUE;
+        }
+        break;
+    case WM_TIMER:
+        changed();
+        return 0;
+    case MM_MCINOTIFY:
+        if (music_)
+            music_->ended(wParam);
+        return 0;
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT:
+        paint();
+        return 0;
+    case WM_DESTROY:
+        KillTimer(window_, ShowTimer);
+        PostQuitMessage(0);
+        return 0;
+    }
+    return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+void PlayerWindow::changed() {
+    InvalidateRect(window_, nullptr, FALSE);
+    schedule();
+}
+
+// One timer, set for the model's next change: the next page, or the next step of a fade.
+void PlayerWindow::schedule() {
+    const int64_t t = now();
+    const int64_t next = model_.nextChangeMs(t);
+    if (next < 0) {
+        KillTimer(window_, ShowTimer);
+        return;
+    }
+    const int64_t wait = std::clamp<int64_t>(next - t, FadeStepMs, 0x7fffffff);
+    SetTimer(window_, ShowTimer, UINT(wait), nullptr);
+}
+
+void PlayerWindow::key(WPARAM key) {
+    show::ShowKey k;
+    if (!keyOf(key, k))
+        return;
+    const show::ShowReaction reaction = model_.key(k, now());
+    if (reaction == show::ShowReaction::Quit) {
+        DestroyWindow(window_);
+        return;
+    }
+    if (k == show::ShowKey::M && music_)
+        music_->setMuted(model_.muted());
+    if (reaction == show::ShowReaction::Redraw)
+        changed();
+}
+
+bool PlayerWindow::homeShown() const {
+    return model_.at(now()).Picture == show::HomePicture;
+}
+
+// Where the frame lies in the window: scaled to fit, centred, on the back colour.
+Gdiplus::Rect PlayerWindow::fitted() const {
+    RECT area;
+    GetClientRect(window_, &area);
+    const double scale =
+        std::min(double(area.right) / scene_.width(), double(area.bottom) / scene_.height());
+    const int w = int(scene_.width() * scale + 0.5), h = int(scene_.height() * scale + 0.5);
+    return Gdiplus::Rect((area.right - w) / 2, (area.bottom - h) / 2, w, h);
+}
+
+void PlayerWindow::pointerAt(int x, int y) {
+    int icon = -1;
+    link_ = -1;
+    const Gdiplus::Rect f = fitted();
+    if (homeShown() && f.Width > 0 && f.Height > 0) {
+        // Window pixels to the frame's, where the ring and the contact lines are laid out.
+        const int fx = int(int64_t(x - f.X) * scene_.width() / f.Width);
+        const int fy = int(int64_t(y - f.Y) * scene_.height() / f.Height);
+        icon = show::IconAt(scene_.home().ring(), fx, fy);
+        link_ = show::LinkAt(scene_.home().contacts(), fx, fy);
+    }
+    if (icon != hover_) {
+        hover_ = icon;
+        InvalidateRect(window_, nullptr, FALSE);
+    }
+}
+
+void PlayerWindow::click(int x, int y) {
+    pointerAt(x, y);
+    if (link_ >= 0) {
+        // The mail program or the browser, whichever the recipient has chosen.
+        const std::wstring target = fromAnsi(scene_.home().contacts().Lines[size_t(link_)].Link);
+        ShellExecuteW(window_, L"open", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+        return;
+    }
+    if (hover_ >= 1 && model_.clickIcon(hover_, now()) == show::ShowReaction::Redraw) {
+        hover_ = -1;
+        changed();
+    }
+}
+
+void PlayerWindow::paint() {
+    PAINTSTRUCT ps;
+    HDC dc = BeginPaint(window_, &ps);
+    RECT area;
+    GetClientRect(window_, &area);
+    if (!frame_)
+        frame_ = std::make_unique<Gdiplus::Bitmap>(scene_.width(), scene_.height(),
+                                                   PixelFormat32bppPARGB);
+    {
+        Gdiplus::Graphics g(frame_.get());
+        scene_.paint(g, model_.at(now()), hover_ >= 1 ? hover_ : 0);
+    }
+    // Drawn off screen first so that a fade step never flickers.
+    HDC memory = CreateCompatibleDC(dc);
+    HBITMAP buffer = CreateCompatibleBitmap(dc, area.right, area.bottom);
+    HGDIOBJ old = SelectObject(memory, buffer);
+    {
+        Gdiplus::Graphics g(memory);
+        Gdiplus::SolidBrush back(scene_.backColor());
+        g.FillRectangle(&back, 0, 0, INT(area.right), INT(area.bottom));
+        g.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBilinear);
+        g.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
+        g.DrawImage(frame_.get(), fitted());
+    }
+    BitBlt(dc, 0, 0, area.right, area.bottom, memory, 0, 0, SRCCOPY);
+    SelectObject(memory, old);
+    DeleteObject(buffer);
+    DeleteDC(memory);
+    EndPaint(window_, &ps);
+}
+
+} // namespace winplayer
