@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QSettings>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -25,8 +26,10 @@ namespace {
 class CheckWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        // The personal dictionary and the language live in the user's settings.
-        qputenv("XDG_CONFIG_HOME", sandbox.path(QStringLiteral("config")).toUtf8());
+        // The personal dictionary and the language live in the user's settings (the test
+        // ones here), which earlier runs may have filled.
+        QSettings(QStringLiteral("Vitara"), QStringLiteral("Zentor"))
+            .remove(QStringLiteral("spelling"));
         SaveSpellingLanguage(QStringLiteral("en_US"));
         doc = sandbox.newDocument();
         TextElement& t = PlaceText(*doc, 1, 7, QRect(20, 20, 300, 100),
@@ -39,6 +42,11 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
         check = window->findChild<CheckUi*>();
         ASSERT_NE(check, nullptr);
+    }
+
+    void TearDown() override {
+        QSettings(QStringLiteral("Vitara"), QStringLiteral("Zentor"))
+            .remove(QStringLiteral("spelling"));
     }
 
     // The wavy underlines of the first paragraph of a box: (start, length) each.
