@@ -1,6 +1,7 @@
 #include "cli/Cli.h"
 
 #include "io/FileUtil.h"
+#include "io/MediaFiles.h"
 #include "io/ProjectJson.h"
 #include "io/ScriptFile.h"
 #include "model/CodePage.h"
@@ -43,6 +44,9 @@ int infoProject(const QString& path, const ProcessContext& ctx) {
                  .arg(report.textsRead)
                  .arg(report.imagesRead));
     PrintJson(ProjectToJson(*doc, report.textsRead, report.imagesRead));
+    // Told, not failed: the project itself was read.
+    for (const QString& file : MissingMedia(*doc))
+        Warn(QStringLiteral("%1: missing file %2").arg(path, file));
     return ExitOk;
 }
 

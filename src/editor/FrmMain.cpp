@@ -1,11 +1,13 @@
 #include "editor/FrmMain.h"
 
 #include "VideoExportRun.h"
+#include "edit/StatusText.h"
 #include "edit/WorkspaceLayout.h"
 #include "editor/Autosave.h"
 #include "editor/ClipboardActions.h"
 #include "editor/EditActions.h"
 #include "editor/FileDrops.h"
+#include "editor/MediaActions.h"
 #include "editor/ProgressRun.h"
 #include "editor/PropertyPanes.h"
 #include "editor/RecentFilesMenu.h"
@@ -32,6 +34,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QProcess>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -88,7 +91,7 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_);
     generator_ = std::make_unique<ResumeGenerator>(ctx_, prompter_, *packagePictures_);
     generator_->setParallel(true);
-    editor_.setGenerator([this, check](bool selfRun) {
+    editor_.setGenerator([this, check](bool selfRun, const QString& path) {
 #ifdef ZENTOR_HAVE_PLAYER
         // Whoever double-clicks an .exe runs Windows; a build without the Windows player
         // writes the Linux one rather than nothing.
@@ -100,18 +103,27 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         ProgressRun run(this, selfRun ? QStringLiteral("Generate Selfrun File")
                                       : QStringLiteral("Generate QDV File"));
         generator_->setProgress(run.progress());
-        const auto outcome = generator_->GenerateResume(doc_, selfRun);
+        const auto outcome = path.isEmpty() ? generator_->GenerateResume(doc_, selfRun)
+                                            : generator_->writePackage(doc_, path, selfRun);
         generator_->setProgress({});
-        if (outcome == ResumeGenerator::Outcome::Written)
-            check->reportAfterOutput();
+        if (outcome != ResumeGenerator::Outcome::Written)
+            return QString();
+        check->reportAfterOutput();
+        return generator_->writtenPath();
     });
     editor_.setExporter([this, check](int command) {
         const bool pdf = command == CmdExportPdf;
         ProgressRun run(this,
                         pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page"));
-        if (RunExport(pdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_, res_, ctx_,
-                      run.progress()))
+        QString written;
+        RunExport(pdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_, res_, ctx_,
+                  run.progress(), &written);
+        if (!written.isEmpty())
             check->reportAfterOutput();
+        return written;
+    });
+    editor_.setLauncher([](const QString& program, const QStringList& args) {
+        return QProcess::startDetached(program, args);
     });
     wireWorkspace();
     AcceptFileDrops(this, picWorkSpace_, editor_);
@@ -183,8 +195,11 @@ void FrmMain::buildMenus() {
     connect(video, &QAction::triggered, this, [this] {
         panes_->commitPendingEdit();
         editor_.commitInPlaceEdit();
-        if (!ExportVideoInteractive(this, doc_, res_).isEmpty())
+        const QString written = ExportVideoInteractive(this, doc_, res_);
+        if (!written.isEmpty()) {
+            setStatusText(WrittenStatus(written));
             findChild<CheckUi*>()->reportAfterOutput();
+        }
     });
 
     recent_ = new RecentFilesMenu(new QMenu(QStringLiteral("Open &Recent"), mainFile_), editor_,
@@ -204,6 +219,7 @@ void FrmMain::buildMenus() {
           {8, "Move To &Bottom", cmd(CmdMoveToBottom)},
           {9, nullptr, {}},
           {10, "Setting", cmd(CmdSettings)}});
+    AddMediaActions(mainFile_, [this](int index) { command(index); });
     AddUndoActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
     AddClipboardActions(mainEdit_, editor_, [this] { panes_->commitPendingEdit(); });
 
@@ -446,7 +462,6 @@ void FrmMain::wireWorkspace() {
 void FrmMain::formLoad() {
     editor_.formLoad();
     editor_.offerRecovery();
-    setStatusText(QStringLiteral("Ready"));
 }
 
 void FrmMain::command(int index) {

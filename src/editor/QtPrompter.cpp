@@ -137,6 +137,11 @@ QString QtPrompter::chooseFile(bool save, const QString& title, const QString& f
     return dialog.selectedFiles().constFirst();
 }
 
+QString QtPrompter::chooseFolder(const QString& title, const QString& initDir) {
+    NormalPointer pointer;
+    return QFileDialog::getExistingDirectory(owner_, title, initDir);
+}
+
 uint32_t QtPrompter::chooseColor() {
     // Starts from black like the system colour chooser, and a cancel gives 0 as black does.
     NormalPointer pointer;

@@ -20,6 +20,7 @@ public:
     QString chooseFile(bool save, const QString& title, const QString& filter,
                        const QString& initFile, const QString& defExt,
                        const QString& initDir) override;
+    QString chooseFolder(const QString& title, const QString& initDir) override;
     uint32_t chooseColor() override;
 
     // "desc|pattern|desc|pattern" -> Qt name filters ("desc (pattern)"); a piece without a

@@ -265,9 +265,10 @@ TEST(EditCommands, PreviousAndNextWrapAround) {
 TEST(EditCommands, OtherCommandsAndTheirEndingSteps) {
     EditorFixture f;
     QList<bool> generated;
-    f.editor.setGenerator([&](bool selfRun) {
+    f.editor.setGenerator([&](bool selfRun, const QString&) {
         EXPECT_EQ(f.view.windowPointer, Pointer::Hourglass);
         generated << selfRun;
+        return QString();
     });
     f.editor.CommonModth(CmdGenerateQdv);
     f.editor.CommonModth(CmdGenerateSelfrun);

@@ -415,7 +415,12 @@ TEST_F(WindowTest, TheGenerateCommandsWriteBothKindsOfPackage) {
     }
     // The self-running one is the same package behind the player.
     EXPECT_EQ(sizes[1] - sizes[0], sandbox.ctx.PlayerStubSize);
-    EXPECT_EQ(find<QLabel>("StatusPanel1")->text(), "Ready");
+    // Success is told in the status bar, with the pages a new document leaves empty.
+    const QString status = find<QLabel>("StatusPanel1")->text();
+    EXPECT_TRUE(status.startsWith("Wrote cv.exe (")) << status.toStdString();
+    EXPECT_TRUE(status.endsWith("pages holding nothing: Personal, Objective, Skills & Interests, "
+                                "Experience, Education, Awards, Overview"))
+        << status.toStdString();
 }
 
 TEST_F(WindowTest, TheExportItemsWriteThePdfAndTheWebPage) {
@@ -432,6 +437,8 @@ TEST_F(WindowTest, TheExportItemsWriteThePdfAndTheWebPage) {
         prompter.expectFile(true, c.title, c.filter, path);
         find<QAction>(c.item)->trigger();
         EXPECT_TRUE(ReadAll(path).startsWith(c.start)) << c.name;
+        EXPECT_TRUE(find<QLabel>("StatusPanel1")->text().startsWith("Wrote " + QString(c.name)))
+            << c.name;
     }
 }
 
@@ -500,6 +507,18 @@ TEST_F(WindowTest, WorkspaceKeysNudgeAndStepAndTheEditMenuUndoesByName) {
     QTest::keyClick(ws, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(state().CurrentRow, row);
     EXPECT_EQ(state().SelectedIndex, slot);
+}
+
+TEST_F(WindowTest, CollectMediaFromTheFileMenuCopiesBesideTheProject) {
+    ASSERT_TRUE(WriteAll(sandbox.path("art.png"), "png"));
+    doc->Header.BackPicture = sandbox.path("art.png");
+    ASSERT_TRUE(SaveScript(*doc, sandbox.path("cv.qds")));
+    find<QAction>("SubFileCollect")->trigger();
+    EXPECT_EQ(doc->Header.BackPicture.trimNull(), "cv media/art.png");
+    EXPECT_EQ(ReadAll(sandbox.path("cv media/art.png")), "png");
+    EXPECT_EQ(find<QLabel>("StatusPanel1")->text(),
+              "Collected 1 file into " + QDir::toNativeSeparators(sandbox.path("cv media")));
+    EXPECT_TRUE(doc->Dirty);
 }
 
 TEST_F(WindowTest, ClipboardKeysCopyPasteDuplicateAndCutThroughOurOwnType) {

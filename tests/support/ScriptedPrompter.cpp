@@ -66,6 +66,13 @@ ScriptedPrompter& ScriptedPrompter::expectColor(uint32_t result) {
     return *this;
 }
 
+ScriptedPrompter& ScriptedPrompter::expectFolder(const QString& title, const QString& result) {
+    Step s = make(Step::Folder, title, QString());
+    s.path = result;
+    steps_.append(s);
+    return *this;
+}
+
 const ScriptedPrompter::Step* ScriptedPrompter::next(Step::Kind kind, const QString& what) {
     log_.append(what);
     if (used_ >= steps_.size()) {
@@ -107,6 +114,14 @@ QString ScriptedPrompter::chooseFile(bool save, const QString& title, const QStr
                 .arg(title, filter, save ? QStringLiteral("save") : QStringLiteral("open"),
                      s->title, s->text, s->save ? QStringLiteral("save") : QStringLiteral("open")));
     return s->path;
+}
+
+QString ScriptedPrompter::chooseFolder(const QString& title, const QString&) {
+    const Step* s = next(Step::Folder, QStringLiteral("folder: ") + title);
+    if (s && s->title != title)
+        failures_.append(
+            QStringLiteral("folder dialog \"%1\", expected \"%2\"").arg(title, s->title));
+    return s ? s->path : QString();
 }
 
 uint32_t ScriptedPrompter::chooseColor() {

@@ -19,7 +19,7 @@ namespace zentor::test {
 class ScriptedPrompter : public Prompter {
 public:
     struct Step {
-        enum Kind { Ask, File, Color } kind = Ask;
+        enum Kind { Ask, File, Color, Folder } kind = Ask;
         QString title;
         QString text; // the message, or the file dialog's filter
         Answer answer = Answer::Cancel;
@@ -43,12 +43,14 @@ public:
     ScriptedPrompter& expectFile(bool save, const QString& title, const QString& filter,
                                  const QString& result);
     ScriptedPrompter& expectColor(uint32_t result);
+    ScriptedPrompter& expectFolder(const QString& title, const QString& result);
 
     Answer ask(const QString& title, const QString& text, Buttons buttons, Icon icon,
                Answer defaultAnswer) override;
     QString chooseFile(bool save, const QString& title, const QString& filter,
                        const QString& initFile, const QString& defExt,
                        const QString& initDir) override;
+    QString chooseFolder(const QString& title, const QString& initDir) override;
     uint32_t chooseColor() override;
 
     // Everything that went wrong, plus the expectations never used.

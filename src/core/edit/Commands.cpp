@@ -1,12 +1,17 @@
 #include "edit/DeleteObject.h"
 #include "edit/Editor.h"
 #include "edit/InsertObject.h"
+#include "edit/Locations.h"
+#include "edit/StatusText.h"
 #include "edit/TabNavigation.h"
 #include "edit/ZOrder.h"
 #include "io/ScriptFile.h"
 #include "model/DefaultDocument.h"
 
 #include <QFileInfo>
+#include <QUrl>
+
+#include <utility>
 
 namespace zentor {
 
@@ -17,10 +22,6 @@ const QString SaveTitle = QStringLiteral("Save QDV Script File");
 
 } // namespace
 
-QString SupportPage() {
-    return QString::fromLatin1(HomePage) + QStringLiteral("support/");
-}
-
 void Editor::menuCommand(int index) {
     commitInPlaceEdit();
     recordPending();
@@ -29,11 +30,21 @@ void Editor::menuCommand(int index) {
 
 void Editor::aboutMenu(int index) {
     if (index == 1)
-        view_.openUrl(SupportPage());
+        showManual();
     else if (index == 2)
         view_.openUrl(QString::fromLatin1(HomePage));
     else if (index == 6)
         view_.showAbout();
+}
+
+void Editor::showManual() {
+    const QString manual = ManualPath(ctx_);
+    if (manual.isEmpty())
+        prompter_.warn(QStringLiteral("Help"),
+                       QStringLiteral("Can't find the user manual beside the program: ") +
+                           ctx_.AppPath + QStringLiteral("doc/manual.html"));
+    else
+        view_.openUrl(QUrl::fromLocalFile(manual).toString());
 }
 
 void Editor::CommonModth(int index) {
@@ -88,16 +99,28 @@ void Editor::CommonModth(int index) {
     case CmdGenerateQdv:
     case CmdGenerateSelfrun:
         view_.setPointer(window, Pointer::Hourglass);
-        if (generate_)
-            generate_(index == CmdGenerateSelfrun);
+        if (generate_) {
+            const QString written = generate_(index == CmdGenerateSelfrun, QString());
+            if (!written.isEmpty())
+                status_ = PackageStatus(doc_, written);
+        }
         view_.setPointer(window, Pointer::Normal);
         break;
     case CmdExportPdf:
     case CmdExportWebPage:
         view_.setPointer(window, Pointer::Hourglass);
-        if (export_)
-            export_(index);
+        if (export_) {
+            const QString written = export_(index);
+            if (!written.isEmpty())
+                status_ = WrittenStatus(written);
+        }
         view_.setPointer(window, Pointer::Normal);
+        break;
+    case CmdPlay:
+        play();
+        break;
+    case CmdCollectMedia:
+        collectMedia();
         break;
     case CmdSettings:
         view_.showSettings();
@@ -112,7 +135,7 @@ void Editor::endingSteps(int index) {
     // Delete and the z-order commands mark the document even when nothing was selected.
     if (index >= CmdInsertImage && index <= CmdMoveToBottom)
         doc_.Dirty = true;
-    view_.setStatusText(QStringLiteral("Ready"));
+    view_.setStatusText(status_.isEmpty() ? QStringLiteral("Ready") : std::exchange(status_, {}));
 }
 
 bool Editor::keepWork(const QString& title) {
@@ -127,6 +150,7 @@ bool Editor::keepWork(const QString& title) {
 }
 
 void Editor::newOrOpen(int index, const QString& given) {
+    bool opened = false;
     if (index == CmdNew) {
         NewDocument(doc_, ctx_);
     } else {
@@ -135,14 +159,18 @@ void Editor::newOrOpen(int index, const QString& given) {
                 ? given
                 : prompter_.chooseFile(false, QStringLiteral("Open QDV Script File"), ScriptFilter);
         // Loaded over the current document: slots the file does not fill keep their objects.
-        if (!path.isEmpty() && LoadScript(doc_, path).opened)
+        if (!path.isEmpty() && LoadScript(doc_, path).opened) {
             view_.projectFileUsed(doc_.ScriptPath);
+            opened = true;
+        }
     }
     sizeAndCentreWorkspace();
     applyStripCaptions();
     LoadTab(st_.CurrentTab);
     doc_.Dirty = false;
     resetHistory();
+    if (opened && offerMissingMedia())
+        RefreshTab(st_.CurrentTab);
 }
 
 bool Editor::saveForQuestion() {

@@ -9,6 +9,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 namespace zentor {
 
 Editor::Editor(Document& doc, const ProcessContext& ctx, EditorView& view, Prompter& prompter)
@@ -21,6 +23,7 @@ void Editor::formLoad() {
     moveAdd(start);
     st_.CurrentTab = 0;
     ShowAdd(false);
+    bool loaded = false;
     if (!ctx_.CommandLine.isEmpty()) {
         if (!QFileInfo::exists(ctx_.CommandLine)) {
             // A new project named on the command line: the default document, saved there by
@@ -28,8 +31,10 @@ void Editor::formLoad() {
             doc_.ScriptPath = QFileInfo(ctx_.CommandLine).absoluteFilePath();
         } else {
             // A file that cannot be read leaves the default document, silently.
-            if (LoadScript(doc_, ctx_.CommandLine).opened)
+            if (LoadScript(doc_, ctx_.CommandLine).opened) {
                 view_.projectFileUsed(doc_.ScriptPath);
+                loaded = true;
+            }
             sizeAndCentreWorkspace();
         }
     }
@@ -37,6 +42,9 @@ void Editor::formLoad() {
     LoadTab(st_.CurrentTab);
     doc_.Dirty = false;
     resetHistory();
+    if (loaded && offerMissingMedia())
+        RefreshTab(st_.CurrentTab);
+    view_.setStatusText(status_.isEmpty() ? QStringLiteral("Ready") : std::exchange(status_, {}));
 }
 
 bool Editor::queryUnload() {

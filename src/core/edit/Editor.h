@@ -30,6 +30,8 @@ enum Command : int {
     CmdSettings = 17,
     CmdExportPdf = 18,
     CmdExportWebPage = 19,
+    CmdPlay = 20,
+    CmdCollectMedia = 21,
 };
 
 enum class MouseButton { Left, Right, Middle };
@@ -39,8 +41,13 @@ enum class MouseButton { Left, Right, Middle };
 // workspace pixels (for the frame and its handles too: add the frame's offset).
 class Editor {
 public:
-    using Generator = std::function<void(bool selfRun)>;
-    using Exporter = std::function<void(int command)>;
+    // Writes a package to `path`, or asks where when `path` is empty; returns the path
+    // written, empty when nothing was.
+    using Generator = std::function<QString(bool selfRun, const QString& path)>;
+    // Runs export `command`; returns the path written, empty when nothing was.
+    using Exporter = std::function<QString(int command)>;
+    // Starts a program on its own; false when it could not be started.
+    using Launcher = std::function<bool(const QString& program, const QStringList& args)>;
 
     Editor(Document& doc, const ProcessContext& ctx, EditorView& view, Prompter& prompter);
 
@@ -51,6 +58,8 @@ public:
     void setGenerator(Generator g) { generate_ = std::move(g); }
     // The export commands (CmdExportPdf, CmdExportWebPage) are reached through this.
     void setExporter(Exporter e) { export_ = std::move(e); }
+    // Play Résumé starts the player through this.
+    void setLauncher(Launcher l) { launch_ = std::move(l); }
 
     // --- Window lifecycle ---
     // Start-up: frame placed, profile page shown, the command-line project opened if any.
@@ -63,7 +72,7 @@ public:
     void CommonModth(int index);
     // A menu or toolbar click: commits an open in-place edit first.
     void menuCommand(int index);
-    // The About menu: 1 the support page, 2 the home page, 6 the about box.
+    // The About menu: 1 the user manual, 2 the home page, 6 the about box.
     void aboutMenu(int index);
 
     // --- Pages and the object list ---
@@ -171,6 +180,14 @@ private:
     void travel(bool back); // undo or redo
     void resetHistory();
     void showRestored();
+    // Play Résumé: a package in the work folder, opened in the player.
+    void play();
+    // Collect Media: every used file copied beside the project, the document pointed there.
+    void collectMedia();
+    // After opening: one question about the files the project uses that are gone, and a
+    // look in a folder the user picks. True when a path was re-pointed.
+    bool offerMissingMedia();
+    void showManual();
 
     Document& doc_;
     const ProcessContext& ctx_;
@@ -179,12 +196,11 @@ private:
     EditorState st_;
     Generator generate_;
     Exporter export_;
+    Launcher launch_;
+    QString status_;               // what the status bar says after this command instead of "Ready"
     bool lastSaveWritten_ = false; // the last Save command wrote the file
     UndoStack undo_;
     DocumentRecords base_; // the records as the last step left them
 };
-
-// The support page opened by the About menu's "&Help".
-QString SupportPage();
 
 } // namespace zentor

@@ -27,6 +27,14 @@ public:
                                const QString& defExt = QString(),
                                const QString& initDir = QString()) = 0;
 
+    // A folder chooser: the chosen folder, or an empty string when cancelled. Programs
+    // without one (the CLI) never get a folder.
+    virtual QString chooseFolder(const QString& title, const QString& initDir = QString()) {
+        Q_UNUSED(title);
+        Q_UNUSED(initDir);
+        return QString();
+    }
+
     // The colour chooser: 0x00BBGGRR, or 0 when cancelled (the same as black).
     virtual uint32_t chooseColor() = 0;
 

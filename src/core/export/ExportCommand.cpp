@@ -38,7 +38,7 @@ bool WriteExport(ExportKind kind, const Document& doc, const QString& path, cons
 }
 
 bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const ResImages& res,
-               const ProcessContext& ctx, const Progress& progress) {
+               const ProcessContext& ctx, const Progress& progress, QString* written) {
     const bool pdf = kind == ExportKind::Pdf;
     const QString title = pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page");
     const QString ext = pdf ? QStringLiteral(".pdf") : QStringLiteral(".html");
@@ -53,8 +53,11 @@ bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const R
             title, QStringLiteral("This file already exists. Do you want to overwrite it?")))
         return false;
     QString error;
-    if (WriteExport(kind, doc, path, res, ctx, &error, progress))
+    if (WriteExport(kind, doc, path, res, ctx, &error, progress)) {
+        if (written)
+            *written = path;
         return true;
+    }
     if (!error.isEmpty())
         prompter.warn(title,
                       QStringLiteral("Can't create file : ") + path + QStringLiteral("\n") + error);

@@ -218,8 +218,10 @@ ResumeGenerator::Outcome ResumeGenerator::writePackage(Document& doc, const QStr
     ctx_.ensureWorkFolder();
     Writer writer(*this, doc, path);
     try {
-        if (writer.run(selfRun))
+        if (writer.run(selfRun)) {
+            writtenPath_ = path;
             return Outcome::Written;
+        }
         return writer.cancelled() ? Outcome::Cancelled : Outcome::Failed;
     } catch (const std::exception&) {
         // Out of memory while decoding or rendering ends like any other failure to write.

@@ -51,6 +51,9 @@ public:
     // exactly that (case matters: "cv.EXE" becomes "cv.EXE.exe").
     static QString withExtension(const QString& path, bool selfRun);
 
+    // The path of the last package written in full.
+    const QString& writtenPath() const { return writtenPath_; }
+
     // The shared byte buffer: the last file read (or the player's bytes).
     QByteArray FileBytes;
     // The entry table of the last package written.
@@ -62,6 +65,7 @@ private:
     Prompter& prompter_;
     PackagePictures& pictures_;
     QByteArray player_;
+    QString writtenPath_;
     bool parallel_ = false;
     qint64 positionLimit_ = std::numeric_limits<int32_t>::max();
     Progress progress_;

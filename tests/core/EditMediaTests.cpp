@@ -1,0 +1,241 @@
+#include "EditFakeView.h"
+#include "TestSupport.h"
+#include "io/CollectMedia.h"
+#include "io/MediaFiles.h"
+#include "io/ScriptFile.h"
+
+#include <QDir>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+using namespace zentor;
+using namespace zentor::test;
+using Answer = Prompter::Answer;
+
+namespace {
+
+const QString ScriptFilter = QStringLiteral("*.qds|*.qds|*.*|*.*");
+
+bool Put(const Sandbox& box, const QString& name, const QByteArray& bytes) {
+    return QDir().mkpath(QFileInfo(box.path(name)).path()) && WriteAll(box.path(name), bytes);
+}
+
+// A saved project in proj/ whose music and picture lived in gone/.
+QString SaveMovedProject(const Sandbox& box) {
+    auto doc = box.newDocument();
+    doc->Header.BackMusic = box.path("gone/song.mp3");
+    PlaceImage(*doc, 1, 2, QRect(0, 0, 10, 10), box.path("gone/a.png"));
+    PlaceImage(*doc, 2, 3, QRect(0, 0, 10, 10), box.path("gone/a.png")); // the same file twice
+    QDir().mkpath(box.path("proj"));
+    EXPECT_TRUE(SaveScript(*doc, box.path("proj/cv.qds")));
+    return box.path("proj/cv.qds");
+}
+
+TEST(EditMedia, OpeningAProjectWithMovedMediaAsksOnceAndLooksInAFolder) {
+    const struct {
+        const char* what;
+        Answer answer;
+        const char* folder; // chosen in the folder dialog; nullptr: not shown
+        bool repointed;
+        const char* status;
+    } cases[] = {
+        {"declined", Answer::No, nullptr, false, "Ready"},
+        {"folder dialog cancelled", Answer::Yes, "", false, "Ready"},
+        {"nothing there", Answer::Yes, "empty", false, "Found 0 of 2 missing files"},
+        {"found, the shallowest copy wins", Answer::Yes, "found", true,
+         "Found 2 of 2 missing files"},
+    };
+    for (const auto& c : cases) {
+        EditorFixture f;
+        const QString project = SaveMovedProject(f.box);
+        ASSERT_TRUE(QDir().mkpath(f.box.path("empty")));
+        ASSERT_TRUE(Put(f.box, "found/deep/a.png", "png"));
+        ASSERT_TRUE(Put(f.box, "found/deep/er/song.mp3", "deeper"));
+        ASSERT_TRUE(Put(f.box, "found/x/song.mp3", "mp3"));
+        f.prompter.expectFile(false, "Open QDV Script File", ScriptFilter, project)
+            .expectQuestion("Missing Media",
+                            "These files of the project cannot be found:\n" +
+                                QDir::toNativeSeparators(f.box.path("gone/song.mp3")) + "\n" +
+                                QDir::toNativeSeparators(f.box.path("gone/a.png")) +
+                                "\n\nDo you want to look for them in a folder?",
+                            c.answer);
+        if (c.folder)
+            f.prompter.expectFolder("Find Missing Media",
+                                    *c.folder ? f.box.path(c.folder) : QString());
+        f.editor.CommonModth(CmdOpen);
+        EXPECT_PROMPTS_DONE(f.prompter);
+        EXPECT_EQ(f.doc->Dirty, c.repointed) << c.what;
+        EXPECT_EQ(f.view.status.toStdString(), c.status) << c.what;
+        const QString dir = c.repointed ? "found/" : "gone/";
+        EXPECT_EQ(f.doc->Header.BackMusic.trimNull(),
+                  f.box.path(c.repointed ? "found/x/song.mp3" : "gone/song.mp3"))
+            << c.what;
+        EXPECT_EQ(f.doc->Images[1].FileName.trimNull(),
+                  f.box.path(c.repointed ? "found/deep/a.png" : "gone/a.png"))
+            << c.what;
+        EXPECT_EQ(f.doc->Images[2].FileName, f.doc->Images[1].FileName) << c.what;
+        if (c.repointed) {
+            EXPECT_TRUE(MissingMedia(*f.doc).isEmpty());
+            f.editor.undo(); // the re-pointing is one step
+            EXPECT_EQ(MissingMedia(*f.doc).size(), 2);
+        }
+    }
+}
+
+TEST(EditMedia, AFoundFileWhosePathDoesNotFitTheFieldStaysMissing) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    PlaceImage(*doc, 1, 1, {}, box.path("gone/a.png"));
+    const QString deep = "found/" + QString(200, 'd') + "/" + QString(60, 'e') + "/a.png";
+    ASSERT_TRUE(Put(box, deep, "png"));
+    EXPECT_EQ(FindMissingMedia(*doc, box.path("found")), 0);
+    EXPECT_EQ(doc->Images[1].FileName.trimNull(), box.path("gone/a.png"));
+    EXPECT_FALSE(doc->Dirty);
+}
+
+TEST(EditMedia, CollectMediaCopiesBesideTheProjectAndPointsThere) {
+    EditorFixture f;
+    ASSERT_TRUE(Put(f.box, "one/a.png", "first"));
+    ASSERT_TRUE(Put(f.box, "two/a.png", "second"));
+    ASSERT_TRUE(Put(f.box, "three/a.png", "first"));
+    ASSERT_TRUE(Put(f.box, "music/song.mp3", "mp3"));
+    ASSERT_TRUE(Put(f.box, "music/show.png", "icon"));
+    f.doc->Header.BackMusic = f.box.path("music/song.mp3");
+    f.doc->Tabs[SlideShowTab].Icon = f.box.path("music/show.png");
+    PlaceImage(*f.doc, 1, 1, {}, f.box.path("one/a.png"));
+    PlaceImage(*f.doc, 2, 1, {}, f.box.path("two/a.png"));
+    PlaceImage(*f.doc, 3, 1, {}, f.box.path("three/a.png")); // same bytes as one/a.png
+    PlaceImage(*f.doc, 4, 1, {}, f.box.path("gone/b.png"));
+    f.doc->Images[5].FileName = f.box.path("gone/stale.png"); // a free slot is not used
+    f.doc->ScriptPath = f.box.path("cv.qds");
+
+    const QString media = f.box.path("cv media");
+    f.prompter.expectWarning("Collect Media",
+                             "These files could not be copied and stay where they were:\n" +
+                                 QDir::toNativeSeparators(f.box.path("gone/b.png")));
+    f.editor.CommonModth(CmdCollectMedia);
+    EXPECT_PROMPTS_DONE(f.prompter);
+    EXPECT_TRUE(f.doc->Dirty);
+    // The default background beside the program is one of the files the project uses.
+    EXPECT_EQ(f.view.status, "Collected 5 files into " + QDir::toNativeSeparators(media));
+    EXPECT_EQ(QDir(media).entryList(QDir::Files),
+              (QStringList{"a (2).png", "a.png", "bakpic.jpg", "show.png", "song.mp3"}));
+    EXPECT_EQ(ReadAll(media + "/a (2).png"), "second");
+    EXPECT_EQ(f.doc->Header.BackMusic.trimNull(), "cv media/song.mp3");
+    EXPECT_EQ(f.doc->Header.BackPicture.trimNull(), "cv media/bakpic.jpg");
+    EXPECT_EQ(f.doc->Tabs[SlideShowTab].Icon.trimNull(), "cv media/show.png");
+    EXPECT_EQ(f.doc->Images[1].FileName.trimNull(), "cv media/a.png");
+    EXPECT_EQ(f.doc->Images[2].FileName.trimNull(), "cv media/a (2).png");
+    EXPECT_EQ(f.doc->Images[3].FileName.trimNull(), "cv media/a.png");
+    EXPECT_EQ(f.doc->Images[4].FileName.trimNull(), f.box.path("gone/b.png"));
+
+    // A second run finds everything in place and changes nothing.
+    f.doc->Dirty = false;
+    EXPECT_EQ(CollectMedia(*f.doc, media).collected, 5);
+    EXPECT_FALSE(f.doc->Dirty);
+    EXPECT_EQ(QDir(media).entryList(QDir::Files).size(), 5);
+
+    // A project that was never saved is saved first; no save, no copies.
+    EditorFixture unsaved;
+    unsaved.prompter.expectFile(true, "Save QDV Script File", ScriptFilter, "");
+    unsaved.editor.CommonModth(CmdCollectMedia);
+    EXPECT_PROMPTS_DONE(unsaved.prompter);
+    EXPECT_EQ(unsaved.doc->Header.BackPicture.trimNull(), unsaved.box.ctx.defaultBackPicture());
+}
+
+TEST(EditMedia, WrittenFilesAndPlayingAreToldInTheStatusBar) {
+    const struct {
+        const char* what;
+        int command;
+        qsizetype bytes; // the file written; -1: nothing written
+        bool launches;
+        const char* status;
+    } cases[] = {
+        {"package", CmdGenerateQdv, 2048, false,
+         "Wrote out.qdv (2.0 kB) - pages holding nothing: Personal, Objective, Skills & "
+         "Interests, Experience, Education, Overview"},
+        {"cancelled", CmdGenerateSelfrun, -1, false, "Ready"},
+        {"export", CmdExportPdf, 100, false, "Wrote out.qdv (100 bytes)"},
+        {"play", CmdPlay, 10, true,
+         "Wrote resume.qdv (10 bytes) - pages holding nothing: Personal, Objective, Skills & "
+         "Interests, Experience, Education, Overview"},
+        {"play, no player", CmdPlay, 10, false, nullptr},
+        {"play, not written", CmdPlay, -1, false, "Ready"},
+    };
+    for (const auto& c : cases) {
+        EditorFixture f;
+        PlaceText(*f.doc, 1, 2); // Awards holds something
+        QStringList asked, launched;
+        auto write = [&](const QString& path) {
+            if (c.bytes < 0)
+                return QString();
+            const QString out = path.isEmpty() ? f.box.path("out.qdv") : path;
+            EXPECT_TRUE(WriteAll(out, QByteArray(c.bytes, 'x')));
+            return out;
+        };
+        f.editor.setGenerator([&](bool, const QString& path) {
+            asked << path;
+            return write(path);
+        });
+        f.editor.setExporter([&](int) { return write(QString()); });
+        f.editor.setLauncher([&](const QString& program, const QStringList& args) {
+            launched << program << args;
+            return c.launches;
+        });
+        const QString player = f.box.ctx.AppPath + "zentor-player";
+        if (c.command == CmdPlay && c.bytes >= 0 && !c.launches)
+            f.prompter.expectWarning("Play Résumé",
+                                     "Can't start the player: " + QDir::toNativeSeparators(player));
+        f.editor.CommonModth(c.command);
+        EXPECT_PROMPTS_DONE(f.prompter);
+        if (c.status) {
+            EXPECT_EQ(f.view.status.toStdString(), c.status) << c.what;
+        }
+        if (c.command == CmdPlay) {
+            const QString package = f.box.ctx.WorkFolder + "resume.qdv";
+            EXPECT_EQ(asked, QStringList{package}) << c.what;
+            EXPECT_EQ(launched, c.bytes < 0 ? QStringList() : QStringList({player, package}))
+                << c.what;
+        }
+    }
+}
+
+TEST(EditMedia, HelpOpensTheManualBesideTheProgramOrInstalled) {
+    const struct {
+        const char* manual; // nullptr: none
+        const char* opened;
+    } cases[] = {
+        {"bin/doc/manual.html", "bin/doc/manual.html"},
+        {"share/doc/zentor/manual.html", "share/doc/zentor/manual.html"},
+        {nullptr, nullptr},
+    };
+    for (const auto& c : cases) {
+        EditorFixture f;
+        f.box.ctx.AppPath = f.box.path("bin/");
+        if (c.manual)
+            ASSERT_TRUE(Put(f.box, c.manual, "<html></html>"));
+        else
+            f.prompter.expectWarning("Help", "Can't find the user manual beside the program: " +
+                                                 f.box.path("bin/doc/manual.html"));
+        f.editor.aboutMenu(1);
+        EXPECT_PROMPTS_DONE(f.prompter);
+        EXPECT_EQ(f.view.log,
+                  c.opened ? QStringList{QUrl::fromLocalFile(f.box.path(c.opened)).toString()}
+                           : QStringList());
+    }
+}
+
+TEST(EditMedia, InfoListsMissingFilesOnStderrAndStillSucceeds) {
+    Sandbox box;
+    const QString project = SaveMovedProject(box);
+    QByteArray out, err;
+    EXPECT_EQ(RunCli({"info", project}, &out, &err), 0);
+    EXPECT_FALSE(out.isEmpty());
+    EXPECT_EQ(QString::fromUtf8(err),
+              QString("zentor-cli: warning: %1: missing file %2\n"
+                      "zentor-cli: warning: %1: missing file %3\n")
+                  .arg(project, box.path("gone/song.mp3"), box.path("gone/a.png")));
+}
+
+} // namespace
