@@ -13,6 +13,7 @@
 #include "editor/RecentFilesMenu.h"
 #include "editor/ToolbarIcons.h"
 #include "editor/WorkspaceWidgets.h"
+#include "editor/check/CheckUi.h"
 #include "export/ExportCommand.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
@@ -83,13 +84,14 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     statusBar()->addWidget(statusPanel_, 1);
 
     panes_ = new PropertyPanes(picElementLoc_, editor_, prompter_, ctx_, this);
+    auto* check = new CheckUi(this, *this, editor_, pictures_, mainEdit_);
 
     // Generation renders with the page painter; the self-running kind starts with the
     // player carried in the program.
     packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_);
     generator_ = std::make_unique<ResumeGenerator>(ctx_, prompter_, *packagePictures_);
     generator_->setParallel(true);
-    editor_.setGenerator([this](bool selfRun, const QString& path) {
+    editor_.setGenerator([this, check](bool selfRun, const QString& path) {
 #ifdef ZENTOR_HAVE_PLAYER
         // Whoever double-clicks an .exe runs Windows; a build without the Windows player
         // writes the Linux one rather than nothing.
@@ -104,15 +106,20 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         const auto outcome = path.isEmpty() ? generator_->GenerateResume(doc_, selfRun)
                                             : generator_->writePackage(doc_, path, selfRun);
         generator_->setProgress({});
-        return outcome == ResumeGenerator::Outcome::Written ? generator_->writtenPath() : QString();
+        if (outcome != ResumeGenerator::Outcome::Written)
+            return QString();
+        check->reportAfterOutput();
+        return generator_->writtenPath();
     });
-    editor_.setExporter([this](int command) {
+    editor_.setExporter([this, check](int command) {
         const bool pdf = command == CmdExportPdf;
         ProgressRun run(this,
                         pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page"));
         QString written;
         RunExport(pdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_, res_, ctx_,
                   run.progress(), &written);
+        if (!written.isEmpty())
+            check->reportAfterOutput();
         return written;
     });
     editor_.setLauncher([](const QString& program, const QStringList& args) {
@@ -189,8 +196,10 @@ void FrmMain::buildMenus() {
         panes_->commitPendingEdit();
         editor_.commitInPlaceEdit();
         const QString written = ExportVideoInteractive(this, doc_, res_, ctx_);
-        if (!written.isEmpty())
+        if (!written.isEmpty()) {
             setStatusText(WrittenStatus(written));
+            findChild<CheckUi*>()->reportAfterOutput();
+        }
     });
 
     recent_ = new RecentFilesMenu(new QMenu(QStringLiteral("Open &Recent"), mainFile_), editor_,

@@ -42,7 +42,7 @@ static int ContentTabOf(int page) {
 }
 
 void PaintPage(QPainter& p, const Document& doc, int page, const ResImages& res,
-               PictureCache* cache) {
+               PictureCache* cache, bool withTexts) {
     const QSize frame = FrameSize(doc);
     if (page < 1 || page > SlideShowTab || frame.isEmpty())
         return;
@@ -51,19 +51,20 @@ void PaintPage(QPainter& p, const Document& doc, int page, const ResImages& res,
     const ImageElement& pic = doc.Tabs[size_t(tab)].Picture;
     DrawPictureFile(p, ResolvePath(doc.ScriptPath, pic.FileName.trimmed()),
                     BoxRect(pic.Left, pic.Top, pic.Width, pic.Height), cache);
-    DrawPageObjects(p, doc, tab, cache);
+    DrawPageObjects(p, doc, tab, cache, withTexts);
     if (page == SlideShowTab)
         DrawStretched(p, res.image(ResHired), BadgeRect(frame));
 }
 
-QImage RenderPageImage(const Document& doc, int page, const ResImages& res, PictureCache* cache) {
+QImage RenderPageImage(const Document& doc, int page, const ResImages& res, PictureCache* cache,
+                       bool withTexts) {
     if (page < 1 || page > SlideShowTab)
         return QImage();
     QImage canvas = WhiteFrameCanvas(doc);
     if (canvas.isNull())
         return QImage();
     QPainter p(&canvas);
-    PaintPage(p, doc, page, res, cache);
+    PaintPage(p, doc, page, res, cache, withTexts);
     p.end();
     return canvas;
 }

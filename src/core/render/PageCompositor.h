@@ -38,12 +38,13 @@ QRect BadgeRect(QSize frame);
 // cache or share one: the cache locks). A null image for a page outside 1..8 or a frame
 // that is not sane.
 QImage RenderPageImage(const Document& doc, int page, const ResImages& res,
-                       PictureCache* cache = nullptr);
+                       PictureCache* cache = nullptr, bool withTexts = true);
 
 // Paints the same page on any surface whose coordinates are frame pixels (the page image,
-// a PDF page): white, then the page as above. Nothing for a page outside 1..8.
+// a PDF page): white, then the page as above. Nothing for a page outside 1..8. Without
+// `withTexts` the page as it lies under its texts.
 void PaintPage(QPainter& p, const Document& doc, int page, const ResImages& res,
-               PictureCache* cache = nullptr);
+               PictureCache* cache = nullptr, bool withTexts = true);
 
 // The same page as JPEG bytes of quality 95 (empty on failure).
 QByteArray RenderPageJpeg(const Document& doc, int page, const ResImages& res,

@@ -9,7 +9,8 @@
 
 namespace zentor {
 
-void DrawPageObjects(QPainter& p, const Document& doc, int tab, PictureCache* cache) {
+void DrawPageObjects(QPainter& p, const Document& doc, int tab, PictureCache* cache,
+                     bool withTexts) {
     for (int i = 1; i <= MaxImages; ++i) {
         const ImageElement& img = doc.Images[size_t(i)];
         if (img.TabNo != tab)
@@ -17,7 +18,7 @@ void DrawPageObjects(QPainter& p, const Document& doc, int tab, PictureCache* ca
         DrawPictureFile(p, ResolvePath(doc.ScriptPath, img.FileName.trimmed()),
                         BoxRect(img.Left, img.Top, img.Width, img.Height), cache);
     }
-    for (int i = 1; i <= MaxTexts; ++i) {
+    for (int i = 1; withTexts && i <= MaxTexts; ++i) {
         const TextElement& t = doc.Texts[size_t(i)];
         if (t.TabNo == tab)
             DrawTextElement(p, t);

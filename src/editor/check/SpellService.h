@@ -1,0 +1,51 @@
+#pragma once
+
+#include "check/SpellChecker.h"
+
+#include <QObject>
+#include <QSet>
+
+#include <memory>
+#include <vector>
+
+namespace zentor {
+
+struct Document;
+struct WordSpan;
+
+// The window's dictionary: opened once in the chosen language, with the personal
+// dictionary and what the user ignored this session. Every underlined box asks it.
+class SpellService : public QObject {
+    Q_OBJECT
+public:
+    SpellService(const Document& doc, QObject* parent = nullptr);
+    ~SpellService() override;
+
+    // Null when the language has no dictionary (error() says so).
+    const SpellChecker* speller() const { return speller_.get(); }
+    QString error() const { return error_; }
+    QString language() const { return language_; }
+    void setLanguage(const QString& language);
+
+    // The misspelt words of `text` (the person's names and addresses never are).
+    std::vector<WordSpan> misspelt(const QString& text) const;
+    QStringList suggestions(const QString& word) const;
+
+    void addToDictionary(const QString& word); // kept in the user's settings
+    void ignore(const QString& word);          // for this session
+
+signals:
+    // The answers changed (a word accepted, another language): underline again.
+    void changed();
+
+private:
+    void open();
+
+    const Document& doc_;
+    QString language_;
+    QString error_;
+    std::unique_ptr<SpellChecker> speller_;
+    QStringList ignored_;
+};
+
+} // namespace zentor

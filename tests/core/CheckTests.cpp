@@ -1,0 +1,335 @@
+#include "TestSupport.h"
+
+#include "check/CheckDocument.h"
+#include "check/Contrast.h"
+#include "check/WordScan.h"
+#include "io/ScriptFile.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <set>
+
+using namespace zentor;
+using namespace zentor::test;
+
+namespace {
+
+// Every content page holds one correct sentence, black on white, in a box it fits; no
+// files. Nothing to report.
+std::unique_ptr<Document> CleanDocument(const Sandbox& box) {
+    auto doc = box.newDocument();
+    doc->Header.BackPicture = QString();
+    doc->Header.BackMusic = QString();
+    for (int tab = 1; tab <= 7; ++tab) {
+        TextElement& t = PlaceText(*doc, tab, tab, QRect(20, 20, 300, 100),
+                                   QStringLiteral("A correct sentence about the work."));
+        t.FontColor = int32_t(0xFF000000);
+        t.FontShadow = 0;
+    }
+    return doc;
+}
+
+std::unique_ptr<SpellChecker> OpenUs() {
+    QString error;
+    auto speller = SpellChecker::open(QStringLiteral("en_US"), &error);
+    EXPECT_TRUE(speller) << error.toStdString();
+    return speller;
+}
+
+using Seen = std::set<std::pair<FindingKind, int>>;
+
+Seen KindsAndTabs(const std::vector<Finding>& findings) {
+    Seen seen;
+    for (const Finding& f : findings)
+        seen.insert({f.kind, f.tab});
+    return seen;
+}
+
+QString Picture(const Sandbox& box, const char* name, int w, int h, QRgb colour = 0xFF336699) {
+    const QString path = box.path(QLatin1String(name));
+    Solid(w, h, colour).save(path);
+    return path;
+}
+
+} // namespace
+
+TEST(Check, EachKindIsFoundOnlyWhereItIs) {
+    Sandbox box;
+    struct Case {
+        const char* what;
+        std::function<void(Document&)> change;
+        Seen expected;
+    };
+    const auto text = [](Document& d, int slot) -> TextElement& { return d.Texts[size_t(slot)]; };
+    const Case cases[] = {
+        {"correct sentences, black on white", [](Document&) {}, {}},
+        {"a misspelt word",
+         [&](Document& d) { text(d, 3).Text = QStringLiteral("I recieved an award."); },
+         {{FindingKind::Spelling, 3}}},
+        {"a misspelt page name",
+         [](Document& d) { d.Tabs[6].Name = QStringLiteral("Objectve"); },
+         {{FindingKind::Spelling, 6}}},
+        {"the person's names, addresses and numbers",
+         [&](Document& d) {
+             d.Profile.Address = QStringLiteral("12 Brynmawrstraat");
+             text(d, 2).Text = QStringLiteral(
+                 "Quorvix Vitara (quorvix@zentorbox.example, www.qvitara.example, "
+                 "qvitara.example/cv) lives at Brynmawrstraat, built 3D models in 2024.");
+         },
+         {}},
+        {"more lines than the box holds",
+         [&](Document& d) {
+             text(d, 4).Text = QStringLiteral("One line.\nTwo lines.\nThree lines.\nFour.");
+             text(d, 4).Height = 30;
+         },
+         {{FindingKind::Overflow, 4}}},
+        {"a word wider than its box",
+         [&](Document& d) {
+             text(d, 5).Text = QStringLiteral("Internationalisation");
+             text(d, 5).Width = 40;
+             d.Profile.Address = QStringLiteral("Internationalisation"); // spelling aside
+         },
+         {{FindingKind::Overflow, 5}}},
+        {"light grey on white",
+         [&](Document& d) { text(d, 1).FontColor = int32_t(0xFFBBBBBB); },
+         {{FindingKind::Contrast, 1}}},
+        {"white on white with a shadow outlining it",
+         [&](Document& d) {
+             text(d, 1).FontColor = int32_t(0xFFFFFFFF);
+             text(d, 1).FontShadow = -1;
+         },
+         {}},
+        {"grey 3.5:1 at 12 pt",
+         [&](Document& d) { text(d, 2).FontColor = int32_t(0xFF888888); },
+         {{FindingKind::Contrast, 2}}},
+        {"grey 3.5:1 at 18 pt is large enough",
+         [&](Document& d) {
+             text(d, 2).FontColor = int32_t(0xFF888888);
+             text(d, 2).FontSize = 18;
+         },
+         {}},
+        {"grey 3.5:1 at 14 pt bold is large enough",
+         [&](Document& d) {
+             text(d, 2).FontColor = int32_t(0xFF888888);
+             text(d, 2).FontStyle = 1;
+             text(d, 2).FontSize = 14;
+         },
+         {}},
+        {"black text over a dark picture",
+         [&](Document& d) {
+             PlaceImage(d, 1, 6, QRect(0, 0, 400, 200),
+                        Picture(box, "dark.png", 400, 200, 0xFF202020));
+         },
+         {{FindingKind::Contrast, 6}}},
+        {"black text with a dark picture under a quarter of its line",
+         [&](Document& d) {
+             PlaceImage(d, 1, 6, QRect(0, 0, 80, 200),
+                        Picture(box, "dark.png", 80, 200, 0xFF202020));
+         },
+         {{FindingKind::Contrast, 6}}},
+        {"black text with a dark speck at the start of its line",
+         [&](Document& d) {
+             PlaceImage(d, 1, 6, QRect(0, 0, 26, 200),
+                        Picture(box, "dark.png", 26, 200, 0xFF202020));
+         },
+         {}},
+        {"a picture drawn 2 times its pixels",
+         [&](Document& d) {
+             PlaceImage(d, 1, 7, QRect(400, 300, 200, 100), Picture(box, "small.png", 100, 50));
+         },
+         {{FindingKind::Resolution, 7}}},
+        {"a picture drawn 1.5 times its pixels",
+         [&](Document& d) {
+             PlaceImage(d, 1, 7, QRect(400, 300, 150, 75), Picture(box, "small.png", 100, 50));
+         },
+         {}},
+        {"a picture drawn smaller than its pixels",
+         [&](Document& d) {
+             PlaceImage(d, 1, 7, QRect(400, 300, 80, 40), Picture(box, "small.png", 100, 50));
+         },
+         {}},
+        {"a tab picture stretched over the page",
+         [&](Document& d) {
+             ImageElement& p = d.Tabs[2].Picture;
+             p.FileName = Picture(box, "tab.png", 400, 600, 0xFFEEEEEE);
+             p.Width = 800;
+             p.Height = 600;
+         },
+         {{FindingKind::Resolution, 2}}},
+        {"a user icon of 64 x 64",
+         [&](Document& d) { d.Profile.UserIcon = Picture(box, "icon64.png", 64, 64); },
+         {{FindingKind::Resolution, 0}}},
+        {"a user icon of 128 x 128",
+         [&](Document& d) { d.Profile.UserIcon = Picture(box, "icon128.png", 128, 128); },
+         {}},
+        {"a picture, a tab icon and the music that cannot be read",
+         [&](Document& d) {
+             PlaceImage(d, 1, 3, QRect(400, 300, 80, 40), box.path("gone.png"));
+             d.Tabs[5].Icon = box.path("gone.ico");
+             d.Header.BackMusic = box.path("gone.mp3");
+         },
+         {{FindingKind::Missing, 3}, {FindingKind::Missing, 5}, {FindingKind::Missing, 8}}},
+        {"a page with nothing on it",
+         [&](Document& d) { text(d, 4).TabNo = 0; },
+         {{FindingKind::Empty, 4}}},
+    };
+    const auto speller = OpenUs();
+    ASSERT_TRUE(speller);
+    for (const Case& c : cases) {
+        auto doc = CleanDocument(box);
+        c.change(*doc);
+        CheckOptions options;
+        options.speller = speller.get();
+        const auto findings = CheckDocument(*doc, options);
+        EXPECT_EQ(KindsAndTabs(findings), c.expected) << c.what;
+    }
+}
+
+TEST(Check, TellsWhichWordAndWhereWithSuggestionsInTheDictionarysOrder) {
+    Sandbox box;
+    auto doc = CleanDocument(box);
+    doc->Texts[3].Text = QStringLiteral("Team leader, recieved teh award.");
+    const auto speller = OpenUs();
+    ASSERT_TRUE(speller);
+    CheckOptions options;
+    options.speller = speller.get();
+    const auto findings = CheckDocument(*doc, options);
+    ASSERT_EQ(findings.size(), 2u);
+    EXPECT_EQ(findings[0].word, QStringLiteral("recieved"));
+    EXPECT_EQ(findings[0].place, 13);
+    EXPECT_EQ(findings[0].objectKind, 2);
+    EXPECT_EQ(findings[0].slot, 3);
+    EXPECT_EQ(findings[1].word, QStringLiteral("teh"));
+
+    const struct {
+        const char* wrong;
+        const char* right;
+    } common[] = {{"recieve", "receive"},
+                  {"teh", "the"},
+                  {"managment", "management"},
+                  {"acheive", "achieve"},
+                  {"responsable", "responsible"}};
+    for (const auto& c : common) {
+        const QStringList s = speller->suggestions(QLatin1String(c.wrong));
+        EXPECT_TRUE(s.mid(0, 3).contains(QLatin1String(c.right)))
+            << c.wrong << ": " << s.join(QLatin1Char(' ')).toStdString();
+    }
+}
+
+TEST(Check, PersonalWordsAreAcceptedAndAMissingDictionaryIsNamed) {
+    Sandbox box;
+    auto doc = CleanDocument(box);
+    doc->Texts[1].Text = QStringLiteral("Built Zentorix pipelines.");
+    CheckOptions options;
+    options.language = QStringLiteral("en_US");
+    EXPECT_EQ(KindsAndTabs(CheckDocument(*doc, options)), (Seen{{FindingKind::Spelling, 1}}));
+    options.personalWords = {QStringLiteral("zentorix")};
+    EXPECT_TRUE(CheckDocument(*doc, options).empty());
+
+    options.language = QStringLiteral("xx_YY");
+    doc->Texts[2].TabNo = 0;
+    const auto findings = CheckDocument(*doc, options);
+    // The other kinds are still checked.
+    EXPECT_EQ(KindsAndTabs(findings), (Seen{{FindingKind::Spelling, -1}, {FindingKind::Empty, 2}}));
+    EXPECT_TRUE(findings[0].message.contains(QLatin1String("xx_YY")));
+}
+
+TEST(Check, SpellableWordsLeaveAddressesAndNumbersOut) {
+    const struct {
+        const char* text;
+        QStringList words;
+    } cases[] = {
+        {"Don't stop", {"Don't", "stop"}},
+        {"well-known ‘quoted’ words.", {"well", "known", "quoted", "words"}},
+        {"mail me@example.org or see https://x.example/a, www.y.example and z.example/cv.",
+         {"mail", "or", "see", "and"}},
+        {"3D MP3 2nd 2024 x2 Q3-report", {"report"}},
+        {"(see x.example) <me@x.example>", {"see"}},
+        {"Ends a sentence.Next", {"Ends", "a"}},
+        {"Crème brûlée", {"Crème", "brûlée"}},
+        {"Vitara wrote", {"wrote"}},
+    };
+    const QSet<QString> exempt{QStringLiteral("vitara")};
+    for (const auto& c : cases) {
+        const QString text = QString::fromUtf8(c.text);
+        QStringList words;
+        for (const WordSpan& w : SpellableWords(text, exempt))
+            words.append(text.mid(w.start, w.length));
+        EXPECT_EQ(words, c.words) << c.text;
+    }
+}
+
+TEST(Check, ContrastFollowsTheRelativeLuminanceFormula) {
+    const struct {
+        QRgb a, b;
+        double ratio;
+    } pairs[] = {{0xFF000000, 0xFFFFFFFF, 21.0},
+                 {0xFF777777, 0xFFFFFFFF, 4.48},
+                 {0xFF767676, 0xFFFFFFFF, 4.54},
+                 {0xFFFF0000, 0xFFFFFFFF, 4.0},
+                 {0xFF336699, 0xFF336699, 1.0}};
+    for (const auto& p : pairs)
+        EXPECT_NEAR(ContrastRatio(RelativeLuminance(p.a), RelativeLuminance(p.b)), p.ratio, 0.01);
+    EXPECT_EQ(Over(0x80000000, 0xFFFFFFFF), qRgb(127, 127, 127));
+    const struct {
+        int points, style;
+        double needed;
+    } sizes[] = {{12, 0, 4.5}, {17, 0, 4.5}, {18, 0, 3.0},
+                 {14, 1, 3.0}, {13, 1, 4.5}, {14, 2, 4.5}};
+    for (const auto& s : sizes)
+        EXPECT_EQ(RequiredContrast(s.points, s.style), s.needed) << s.points << " " << s.style;
+}
+
+TEST(CheckCli, PrintsFindingsForPeopleOrAsJsonWithTheExitStatus) {
+    Sandbox box;
+    // The personal dictionary lives in the user's settings: keep the test's apart.
+    qputenv("XDG_CONFIG_HOME", box.path(QStringLiteral("config")).toUtf8());
+    auto doc = CleanDocument(box);
+    ASSERT_TRUE(doc->Tabs[3].Name.text() == QLatin1String("Education"));
+    doc->Texts[3].Text = QStringLiteral("Graduated in managment.");
+    doc->Texts[3].Name = QStringLiteral("Degree");
+    const QString bad = box.path("bad.qds"), clean = box.path("clean.qds");
+    ASSERT_TRUE(SaveScript(*doc, bad));
+    ASSERT_TRUE(SaveScript(*CleanDocument(box), clean));
+
+    QByteArray out, err;
+    EXPECT_EQ(RunCli({"check", bad, "--lang", "en_US"}, &out, &err), 1) << err.toStdString();
+    EXPECT_TRUE(out.startsWith("Education, Degree: \"managment\" is not in the en_US dictionary "
+                               "(try: management"))
+        << out.toStdString();
+
+    ASSERT_EQ(RunCli({"check", bad, "--json", "--lang", "en_US"}, &out), 1);
+    // The keys come in the order people read them.
+    qsizetype last = -1;
+    for (const char* key : {"kind", "tab", "object", "message", "word", "suggestions"}) {
+        const qsizetype at = out.indexOf(QByteArray("\"") + key + "\":");
+        EXPECT_GT(at, last) << key;
+        last = at;
+    }
+    const QJsonArray list = QJsonDocument::fromJson(out).object().value("findings").toArray();
+    ASSERT_EQ(list.size(), 1);
+    const QJsonObject f = list[0].toObject();
+    EXPECT_EQ(f.keys(), (QStringList{"kind", "message", "object", "suggestions", "tab", "word"}));
+    EXPECT_EQ(f.value("kind").toString(), "spelling");
+    EXPECT_EQ(f.value("tab").toInt(), 3);
+    EXPECT_EQ(f.value("word").toString(), "managment");
+    EXPECT_EQ(f.value("suggestions").toArray().first().toString(), "management");
+
+    EXPECT_EQ(RunCli({"check", clean, "--lang", "en_US"}, &out), 0);
+    EXPECT_EQ(out, "Nothing to fix.\n");
+    EXPECT_EQ(RunCli({"check", clean, "--json", "--lang", "en_US"}, &out), 0);
+    EXPECT_EQ(QJsonDocument::fromJson(out).object().value("findings").toArray().size(), 0);
+
+    EXPECT_EQ(RunCli({"check", clean, "--lang", "xx_YY"}, &out, &err), 1);
+    EXPECT_TRUE(out.contains("No spelling dictionary for \"xx_YY\"")) << out.toStdString();
+    EXPECT_EQ(RunCli({"check"}, &out, &err), 2);
+    EXPECT_EQ(RunCli({"check", clean, "--lang"}, &out, &err), 2);
+    EXPECT_EQ(RunCli({"check", clean, "--wrong"}, &out, &err), 2);
+    EXPECT_EQ(RunCli({"check", box.path("none.qds")}, &out, &err), 1);
+    EXPECT_TRUE(err.contains("cannot open"));
+}
