@@ -2,13 +2,14 @@
 // making the same video from the same page pictures with its xfade filter, side by side.
 #include "BenchSupport.h"
 
-#include "export/PageShowFrames.h"
+#include "export/PackageShowFrames.h"
 #include "export/VideoExport.h"
 #include "io/FileUtil.h"
 #include "io/ScriptFile.h"
 #include "model/DefaultDocument.h"
 #include "render/PageCompositor.h"
 #include "render/ResImages.h"
+#include "show/ShowModel.h"
 
 #include <QProcess>
 
@@ -26,12 +27,23 @@ struct Fixture {
     bench::Workspace ws;
     std::unique_ptr<Document> doc = std::make_unique<Document>();
     ResImages res = ResImages::load();
+    std::unique_ptr<ShowFrames> show;
     double seconds = 0;
 
     Fixture() {
         NewDocument(*doc, ws.ctx);
         LoadScript(*doc, QStringLiteral(ZENTOR_SAMPLE));
-        seconds = PageShowFrames::Steps * doc->Header.KeepOnTime / 1000.0;
+        show = Show();
+        seconds = show->durationMs() / 1000.0;
+    }
+
+    std::unique_ptr<ShowFrames> Show() {
+        QStringList warnings;
+        QString error;
+        auto s = DocumentShowFrames(*doc, ws.ctx, res, warnings, error);
+        if (!s)
+            qFatal("%s", qPrintable(error));
+        return s;
     }
 };
 
@@ -48,26 +60,29 @@ void Report(benchmark::State& state) {
 void BM_ExportVideo(benchmark::State& state) {
     Fixture& f = F();
     for (auto _ : state) {
-        PageShowFrames show(*f.doc, f.res);
+        const auto show = f.Show();
         const VideoResult r =
-            ExportVideo(*f.doc, show, f.ws.path("export.mp4"), VideoOptions{Height, 30});
+            ExportVideo(*f.doc, *show, f.ws.path("export.mp4"), VideoOptions{Height, 30});
         if (r.outcome != VideoResult::Outcome::Written)
             state.SkipWithError(qPrintable(r.error));
     }
     Report(state);
 }
 
-// The same show from the ffmpeg program: each page a looped still, one-second fades between
-// them, the music mixed in; the page pictures are drawn beforehand and not timed.
+// The same show from the ffmpeg program: each step's picture a looped still, the same fades
+// between them, the music mixed in; the pictures are drawn beforehand and not timed.
 void BM_FfmpegXfade(benchmark::State& state) {
     Fixture& f = F();
-    const int steps = PageShowFrames::Steps;
-    const double keep = f.doc->Header.KeepOnTime / 1000.0;
-    const double fade = 1.0;
+    const int steps = f.show->stepCount();
+    const int holdMs = f.show->durationMs() / steps;
+    const double keep = holdMs / 1000.0;
+    double fade = std::clamp(int(f.doc->Header.ShowSpeed), 0, show::MaxShowSpeed) *
+                  show::FadeMsPerSpeed / 1000.0;
+    fade = std::max(fade, 1 / 30.0); // xfade needs one frame at least
     QStringList args{"-v", "error", "-y"};
     for (int i = 0; i < steps; ++i) {
         const QString png = f.ws.path(QStringLiteral("page%1.png").arg(i));
-        RenderPageImage(*f.doc, i + 1 == steps ? 1 : i + 1, f.res).save(png);
+        f.show->frameAt((i + 1) * holdMs - 1).save(png);
         args << "-loop"
              << "1"
              << "-framerate"

@@ -1,6 +1,6 @@
 #include "cli/Cli.h"
 
-#include "export/PageShowFrames.h"
+#include "export/PackageShowFrames.h"
 #include "export/VideoExport.h"
 #include "io/ScriptFile.h"
 #include "model/Document.h"
@@ -48,8 +48,13 @@ int runVideo(const Args& args, const ProcessContext& ctx) {
         return ExitError;
 
     const ResImages res = ResImages::load();
-    PageShowFrames show(*doc, res);
-    const VideoResult result = ExportVideo(*doc, show, out, options);
+    QStringList warnings;
+    QString error;
+    const auto show = DocumentShowFrames(*doc, ctx, res, warnings, error);
+    if (!show)
+        return Fail(QStringLiteral("%1: %2").arg(project, error));
+    VideoResult result = ExportVideo(*doc, *show, out, options);
+    result.warnings = warnings + result.warnings;
     for (const QString& w : result.warnings)
         Warn(w);
     if (result.outcome != VideoResult::Outcome::Written)

@@ -195,7 +195,7 @@ void FrmMain::buildMenus() {
     connect(video, &QAction::triggered, this, [this] {
         panes_->commitPendingEdit();
         editor_.commitInPlaceEdit();
-        const QString written = ExportVideoInteractive(this, doc_, res_);
+        const QString written = ExportVideoInteractive(this, doc_, res_, ctx_);
         if (!written.isEmpty()) {
             setStatusText(WrittenStatus(written));
             findChild<CheckUi*>()->reportAfterOutput();

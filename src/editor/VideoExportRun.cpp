@@ -1,7 +1,7 @@
 #include "VideoExportRun.h"
 
 #include "editor/ProgressRun.h"
-#include "export/PageShowFrames.h"
+#include "export/PackageShowFrames.h"
 #include "export/VideoExport.h"
 #include "model/Document.h"
 
@@ -11,7 +11,8 @@
 
 namespace zentor {
 
-QString ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res) {
+QString ExportVideoInteractive(QWidget* parent, const Document& doc, const ResImages& res,
+                               const ProcessContext& ctx) {
     const QString start = doc.ScriptPath.isEmpty()
                               ? QStringLiteral("resume.mp4")
                               : QFileInfo(doc.ScriptPath).path() + QLatin1Char('/') +
@@ -24,12 +25,19 @@ QString ExportVideoInteractive(QWidget* parent, const Document& doc, const ResIm
     if (!path.endsWith(QLatin1String(".mp4"), Qt::CaseInsensitive))
         path += QStringLiteral(".mp4");
 
-    PageShowFrames show(doc, res);
+    QStringList warnings;
+    QString error;
+    const auto show = DocumentShowFrames(doc, ctx, res, warnings, error);
+    if (!show) {
+        QMessageBox::warning(parent, QStringLiteral("Export Video"), error);
+        return QString();
+    }
     VideoResult result;
     {
         ProgressRun progress(parent, QStringLiteral("Export Video"));
-        result = ExportVideo(doc, show, path, VideoOptions{}, progress.progress());
+        result = ExportVideo(doc, *show, path, VideoOptions{}, progress.progress());
     }
+    result.warnings = warnings + result.warnings;
     if (result.outcome == VideoResult::Outcome::Failed)
         QMessageBox::warning(parent, QStringLiteral("Export Video"), result.error);
     else if (result.outcome == VideoResult::Outcome::Written && !result.warnings.isEmpty())

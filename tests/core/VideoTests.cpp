@@ -17,7 +17,11 @@ using namespace zentor;
 
 namespace {
 
-constexpr int KeepMs = 400;
+// The shortest holding time a show has; with Show Speed 20 each picture fades in over 500 ms.
+constexpr int KeepMs = 1000;
+constexpr int FadeMs = 500;
+// Page 2, page 1 and the slide-show page, then the home page.
+constexpr int ShowSteps = 4;
 
 // One second of a 440 Hz tone as 16-bit mono PCM in a WAV file.
 QByteArray ToneWav() {
@@ -36,14 +40,20 @@ QByteArray ToneWav() {
 QString Project(test::Sandbox& box, const QString& music) {
     auto doc = box.newDocument();
     doc->Header.KeepOnTime = KeepMs;
+    doc->Header.ShowSpeed = FadeMs / 25;
+    doc->Header.ShowAsRun = 1; // so that the player's --frame runs the show as the video does
     doc->Header.BackMusic = music;
     doc->Header.FrameWidth = 321; // odd, to be rounded down
     doc->Header.FrameHeight = 240;
     doc->Profile.FirstName = "Quorvix";
     doc->Profile.LastName = "Dellamere";
-    test::PlaceImage(*doc, 1, 1, {0, 0, 321, 240}, "red.png"); // page 1 red, page 2 white
+    // Red on page 1's left half (the slide-show page shows page 1's objects too), blue on
+    // page 2's; the other pages hold nothing, and the show passes them over.
+    test::PlaceImage(*doc, 1, 1, {0, 0, 160, 240}, "red.png");
+    test::PlaceImage(*doc, 2, 2, {0, 0, 160, 240}, "blue.png");
     const QString path = box.path("v.qds");
     EXPECT_TRUE(test::Solid(8, 8, qRgb(220, 30, 30)).save(box.path("red.png")));
+    EXPECT_TRUE(test::Solid(8, 8, qRgb(30, 30, 220)).save(box.path("blue.png")));
     EXPECT_TRUE(test::WriteAll(box.path("tone.wav"), ToneWav()));
     EXPECT_TRUE(test::WriteAll(box.path("notes.txt"), "not sound at all"));
     EXPECT_TRUE(SaveScript(*doc, path));
@@ -115,7 +125,7 @@ TEST(VideoCli, WritesThePlayableShow) {
         EXPECT_EQ(video["pix_fmt"].toString(), "yuv420p");
         EXPECT_EQ(QSize(video["width"].toInt(), video["height"].toInt()), c.size);
         const QJsonObject format = probe["format"].toObject();
-        EXPECT_NEAR(format["duration"].toString().toDouble(), 9 * KeepMs / 1000.0, 0.1);
+        EXPECT_NEAR(format["duration"].toString().toDouble(), ShowSteps * KeepMs / 1000.0, 0.1);
         EXPECT_EQ(format["tags"].toObject()["title"].toString(), "Quorvix Dellamere");
         if (c.audio) {
             const QJsonObject audio = streams[1].toObject();
@@ -125,17 +135,23 @@ TEST(VideoCli, WritesThePlayableShow) {
     }
 }
 
-TEST(VideoCli, HoldsShowThePages) {
+TEST(VideoCli, FramesAreThePlayersFrames) {
     test::Sandbox box;
     const QString project = Project(box, "");
     const QString out = box.path("show.mp4");
+    const QString package = box.path("cv.qdv");
     ASSERT_EQ(test::RunCli({"video", project, out}), 0);
-    for (int page : {1, 2}) {
-        const QString png = box.path(QStringLiteral("page%1.png").arg(page));
-        ASSERT_EQ(test::RunCli({"render", project, QString::number(page), png}), 0);
-        const QImage frame = FrameAt(out, (page - 1) * KeepMs + KeepMs / 2, box.path("f.png"));
+    ASSERT_EQ(test::RunCli({"generate", project, package}), 0);
+    // Inside the first page's hold, half way through the second page's fade, inside the
+    // second page's hold, and back home.
+    for (int ms : {800, KeepMs + FadeMs / 2, KeepMs + 800, (ShowSteps - 1) * KeepMs + 800}) {
+        const QString png = box.path(QStringLiteral("player%1.png").arg(ms));
+        ASSERT_EQ(test::RunProcess(QStringLiteral(ZENTOR_PLAYER_PATH),
+                                   {package, "--frame", QString::number(ms), png}),
+                  0);
+        const QImage frame = FrameAt(out, ms, box.path("f.png"));
         ASSERT_FALSE(frame.isNull());
-        EXPECT_LT(MeanDifference(frame, QImage(png)), 0.04) << page;
+        EXPECT_LT(MeanDifference(frame, QImage(png)), 0.04) << ms;
     }
 }
 

@@ -1,8 +1,7 @@
 #include "export/Contacts.h"
 
 #include "model/Document.h"
-
-#include <QUrl>
+#include "show/HomeLayout.h"
 
 namespace zentor {
 
@@ -11,12 +10,14 @@ QString PersonName(const Document& doc) {
         .trimmed();
 }
 
-QString WebsiteHref(const QString& website) {
-    const QString site = website.trimmed();
-    if (site.isEmpty())
-        return QString();
-    return QUrl(site).scheme().isEmpty() ? QStringLiteral("http://") + site : site;
+namespace {
+
+// Where a contact links, by the players' rule.
+QString LinkOf(show::ContactKind kind, const QString& text) {
+    return QString::fromStdString(show::ContactLink(kind, text.toStdString()));
 }
+
+} // namespace
 
 QList<ContactLine> ContactLines(const Document& doc) {
     const ProfileRecord& pr = doc.Profile;
@@ -25,8 +26,8 @@ QList<ContactLine> ContactLines(const Document& doc) {
     QList<ContactLine> lines;
     for (const ContactLine& line :
          {ContactLine{pr.Phone.trimNull(), {}},
-          ContactLine{email, email.isEmpty() ? QString() : QStringLiteral("mailto:") + email},
-          ContactLine{site, WebsiteHref(site)},
+          ContactLine{email, LinkOf(show::ContactKind::Email, email)},
+          ContactLine{site, LinkOf(show::ContactKind::Website, site)},
           ContactLine{(pr.Address.trimNull() + QLatin1Char(' ') + pr.PostCode.trimNull()).trimmed(),
                       {}}})
         if (!line.text.isEmpty())

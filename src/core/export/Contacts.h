@@ -10,9 +10,6 @@ struct Document;
 // The person's name as the exports show it: first and last name, trimmed.
 QString PersonName(const Document& doc);
 
-// The address a web site field links to: as typed when it names a scheme, else http://.
-QString WebsiteHref(const QString& website);
-
 // One line of the contacts; `href` is empty when it links nowhere.
 struct ContactLine {
     QString text;
@@ -20,7 +17,7 @@ struct ContactLine {
 };
 
 // The filled contact lines in order: phone, e-mail (a mailto: link), web site (a link),
-// address with post code.
+// address with post code; links as the players make them (show::ContactLink).
 QList<ContactLine> ContactLines(const Document& doc);
 
 } // namespace zentor

@@ -20,9 +20,4 @@ class ResImages;
 QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx,
                      const Progress& progress = {});
 
-// Adds an author to the information dictionary of a PDF that has a classic cross-reference
-// table, moving the offsets after it. Returns false and leaves `pdf` alone when it has no
-// such dictionary or table.
-bool AddPdfAuthor(QByteArray& pdf, const QString& author);
-
 } // namespace zentor

@@ -1,22 +1,22 @@
 #include "export/WebPageExport.h"
 
 #include "export/Contacts.h"
+#include "export/PackageShowFrames.h"
 #include "export/WebPageTemplate.h"
 #include "export/WebShow.h"
-#include "generate/PictureJobs.h"
+#include "generate/PackageReader.h"
 #include "io/FileUtil.h"
+#include "model/CodePage.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
 #include "render/ImageSave.h"
 #include "render/PageCompositor.h"
-#include "render/PictureCache.h"
 #include "render/ResImages.h"
 #include "render/TextLayout.h"
-#include "render/WorkspacePainter.h"
+#include "show/ShowPictures.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QThread>
 
 #include <cmath>
 
@@ -25,10 +25,46 @@ namespace {
 
 constexpr int PageQuality = 90;
 
-QString DataUri(const char* mime, const QByteArray& bytes) {
-    return QStringLiteral("data:%1;base64,").arg(QLatin1String(mime)) +
-           QString::fromLatin1(bytes.toBase64());
-}
+// Pictures and music go into the page as data URIs. Megabytes of them would cost more to
+// pass through the JSON writer than to draw the pages, so the JSON carries a stand-in for
+// each, put in place at the end.
+class DataUris {
+public:
+    QString add(const char* mime, const QByteArray& bytes) {
+        uris_.push_back("data:" + QByteArray(mime) + ";base64," + bytes.toBase64());
+        return Mark + QString::number(uris_.size() - 1);
+    }
+    // `json` with every stand-in replaced by its URI.
+    QByteArray fill(const QByteArray& json) const {
+        static const QByteArray written = "\"\\u0001uri"; // how the JSON writer escapes Mark
+        qsizetype size = json.size();
+        for (const QByteArray& u : uris_)
+            size += u.size();
+        QByteArray out;
+        out.reserve(size);
+        qsizetype from = 0;
+        for (qsizetype at; (at = json.indexOf(written, from)) >= 0;) {
+            qsizetype end = at + written.size();
+            size_t index = 0;
+            while (end < json.size() && json[end] >= '0' && json[end] <= '9')
+                index = index * 10 + size_t(json[end++] - '0');
+            if (end >= json.size() || json[end] != '"' || index >= uris_.size()) {
+                out += json.mid(from, end - from);
+                from = end;
+                continue;
+            }
+            out += json.mid(from, at - from);
+            out += '"' + uris_[index] + '"';
+            from = end + 1;
+        }
+        out += json.mid(from);
+        return out;
+    }
+
+private:
+    static inline const QString Mark = QStringLiteral("\u0001uri");
+    std::vector<QByteArray> uris_;
+};
 
 QJsonObject Box(int left, int top, int width, int height) {
     return QJsonObject{{"left", left}, {"top", top}, {"width", width}, {"height", height}};
@@ -68,7 +104,7 @@ QJsonObject TextLayer(const QString& text, double left, double top, double width
 }
 
 // The page's texts and picture objects in drawing order, for the layer over its picture.
-QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg) {
+QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg, DataUris& uris) {
     const int tab = page == SlideShowTab ? 1 : page;
     QJsonArray images, texts;
     for (int i = 1; i <= MaxImages; ++i) {
@@ -92,33 +128,38 @@ QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg) {
     const QString name = page == SlideShowTab ? QStringLiteral("Slide Show")
                                               : doc.Tabs[size_t(page)].Name.trimNull();
     return QJsonObject{{"name", name},
-                       {"picture", DataUri("image/jpeg", jpeg)},
+                       {"picture", uris.add("image/jpeg", jpeg)},
                        {"images", images},
                        {"texts", texts}};
 }
 
-QJsonObject HomeLayer(const Document& doc, const QByteArray& jpeg) {
-    const QSize frame = FrameSize(doc);
+QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, DataUris& uris) {
+    const QSize frame = pictures.frame();
+    // The contacts are painted on the home picture as the players paint them; over them
+    // lie their words as text and their links, where the players take clicks.
     QJsonArray lines;
-    for (const ContactLine& line : ContactLines(doc))
-        lines.append(QJsonObject{{"text", line.text}, {"href", line.href}});
+    for (const show::HomeLine& line : pictures.contacts().Lines) {
+        QJsonObject o = Box(line.Rect.Left, line.Rect.Top, line.Rect.Right - line.Rect.Left,
+                            line.Rect.Bottom - line.Rect.Top);
+        o.insert("text", CodePage::active().decode(
+                             QByteArrayView(line.Text.data(), qsizetype(line.Text.size()))));
+        o.insert("href", QString::fromStdString(line.Link));
+        lines.append(o);
+    }
 
-    // The caption under the centre picture, as the home picture draws it, and the contacts
-    // below it, between the ring's lower icons.
+    // The caption under the centre picture, as the home picture draws it.
     const int captionTop = int(std::lround(frame.height() / 2.0)) + 80;
     QJsonArray texts;
     const QJsonObject caption = TextLayer(PersonName(doc), 0, captionTop, frame.width(), 24,
                                           QStringLiteral("Arial"), 12, 0, 1, 0);
     if (!caption.isEmpty())
         texts.append(caption);
-    const int contactsWidth = 300;
+    const QImage home = pictures.picture(show::HomePicture);
     return QJsonObject{
         {"name", PersonName(doc)},
-        {"picture", DataUri("image/jpeg", jpeg)},
+        {"picture", uris.add("image/jpeg", EncodeJpeg(home, PageQuality))},
         {"texts", texts},
-        {"contacts", QJsonObject{{"box", Box((frame.width() - contactsWidth) / 2, captionTop + 28,
-                                             contactsWidth, 19 * int(lines.size()))},
-                                 {"lines", lines}}}};
+        {"contacts", QJsonObject{{"px", pictures.contacts().FontPixelSize}, {"lines", lines}}}};
 }
 
 } // namespace
@@ -127,36 +168,31 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
                          const Progress& progress) {
     if (FrameSize(doc).isEmpty())
         return QByteArray();
-    // The eight pages and the home page are drawn side by side, as generating draws them.
-    PictureCache cache;
-    std::vector<PictureJobs::Job> jobs;
-    for (int page = 1; page <= SlideShowTab; ++page)
-        jobs.push_back(
-            [&, page] { return PictureJobs::Result(RenderPageJpeg(doc, page, res, &cache)); });
-    jobs.push_back([&] {
-        Document copy = doc; // the painter tidies what it draws; the export only reads
-        return PictureJobs::Result(
-            EncodeJpeg(PaintWorkspace(copy, ProfileTab, 0, res, ctx, &cache), PageQuality));
-    });
-    PictureJobs pictures(std::move(jobs), std::max(1, QThread::idealThreadCount()));
+    // The pages are the package's own, the home page the players' own.
+    PackageContents package;
+    QStringList warnings;
+    QString error;
+    if (!DocumentPackage(doc, ctx, res, package, warnings, error))
+        return QByteArray();
+    const ShowPictures pictures(package, res, DefaultHomeBackground(ctx));
 
-    QJsonObject show = WebShowNumbers(doc);
+    QJsonObject show = WebShowNumbers(doc, pictures.showOrder());
     show.insert("title", PersonName(doc));
+    DataUris uris;
     QJsonObject pages;
     for (int page = 1; page <= SlideShowTab; ++page) {
         if (!GoOn(progress, page, SlideShowTab + 1))
             return QByteArray();
         pages.insert(QString::number(page),
-                     PageLayer(doc, page, pictures.take(size_t(page - 1)).value_or(QByteArray())));
+                     PageLayer(doc, page, package.blob(show::PageEntryOfTab(page)), uris));
     }
     if (!GoOn(progress, SlideShowTab + 1, SlideShowTab + 1))
         return QByteArray();
-    show.insert("home", HomeLayer(doc, pictures.take(SlideShowTab).value_or(QByteArray())));
+    show.insert("home", HomeLayer(doc, pictures, uris));
     show.insert("pages", pages);
-    QByteArray music;
-    const QString musicPath = ResolvePath(doc.ScriptPath, doc.Header.BackMusic.trimNull());
-    if (!doc.Header.BackMusic.trimNull().isEmpty() && ReadFileBytes(musicPath, music) > 0)
-        show.insert("music", DataUri("audio/mpeg", music));
+    const QByteArray music = package.blob(show::Package::MusicEntry);
+    if (!music.isEmpty())
+        show.insert("music", uris.add("audio/mpeg", music));
 
     // "</script" or "<!--" in a text would change how the page reads its script element; a
     // '<' only stands inside JSON strings, where its escape means the same.
@@ -164,7 +200,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     data.replace("<", "\\u003c");
     QByteArray page = WebPageTemplate();
     page.replace("@TITLE@", PersonName(doc).toHtmlEscaped().toUtf8());
-    page.replace("@DATA@", data);
+    page.replace("@DATA@", uris.fill(data));
     return page;
 }
 

@@ -25,9 +25,8 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
 .object { position: absolute; }
 .ring { position: absolute; padding: 0; border: 0; background: transparent; cursor: pointer; }
 .ring:focus-visible { outline: 2px solid #fff; border-radius: 50%; }
-.contacts { position: absolute; text-align: center; color: #fff; font: 13px Arial,
-  "Liberation Sans", sans-serif; text-shadow: 1px 1px 0 #000; line-height: 19px; }
-.contacts a { color: #fff; }
+.contact { position: absolute; display: block; text-align: center; color: transparent;
+  font-family: Arial, "Liberation Sans", sans-serif; white-space: pre; overflow: hidden; }
 </style>
 </head>
 <body data-page="0">
@@ -90,14 +89,15 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
   for (const key of Object.keys(show.pages)) screens[key] = screen(show.pages[key], show.pages[key].name);
 
   const home = screens[0];
-  const contacts = el("div", "contacts", show.home.contacts.box);
+  // The home picture shows the contacts; their words and links lie over them.
   for (const c of show.home.contacts.lines) {
-    const line = el(c.href ? "a" : "div");
-    if (c.href) { line.href = c.href; line.style.display = "block"; }
+    const line = el(c.href ? "a" : "span", "contact", c);
+    if (c.href) line.href = c.href;
     line.textContent = c.text;
-    contacts.appendChild(line);
+    line.style.fontSize = show.home.contacts.px + "px";
+    line.style.lineHeight = c.height + "px";
+    home.appendChild(line);
   }
-  home.appendChild(contacts);
   show.ring.forEach(function (r, i) {
     if (i === 0) return;
     const b = el("button", "ring", r);

@@ -22,13 +22,13 @@ show::ShowHeader showHeaderOf(const ScriptHeader& h) {
 
 } // namespace
 
-QJsonObject WebShowNumbers(const Document& doc) {
+QJsonObject WebShowNumbers(const Document& doc, const std::vector<int>& showOrder) {
     const QSize frame = FrameSize(doc);
     const show::ShowHeader h = showHeaderOf(doc.Header);
     const show::ShowSettings settings = show::ShowSettingsOf(h);
     const show::MusicSettings music = show::MusicSettingsOf(h, true);
     QJsonArray order;
-    for (int entry : show::PageOrder)
+    for (int entry : showOrder)
         order.append(entry - show::Package::FirstPageEntry + 1);
 
     QJsonArray ring;

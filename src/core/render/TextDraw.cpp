@@ -243,8 +243,10 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
     if (shadow != 0) {
         const uint32_t shadowColor = ShadowColorFor(color);
         pass(shadowColor, shadowOffset, shadowOffset, pdf);
-        // Once more unshifted: it thickens the glyph edges under the text.
-        pass(shadowColor, 0, 0, pdf);
+        // Once more unshifted: it thickens the glyph edges under the text. Vector glyphs have
+        // no soft edges to thicken, so a PDF is spared a second copy of every outline.
+        if (!pdf)
+            pass(shadowColor, 0, 0, false);
     }
     pass(color, 0, 0, false);
     g.restore();

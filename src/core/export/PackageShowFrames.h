@@ -1,0 +1,52 @@
+#pragma once
+
+#include "export/ShowFrames.h"
+#include "show/ShowModel.h"
+#include "show/ShowPictures.h"
+
+#include <QStringList>
+
+#include <memory>
+
+namespace zentor {
+
+struct Document;
+struct PackageContents;
+struct ProcessContext;
+class ResImages;
+
+// The show a player runs of a package with the slide show on from the start: each page
+// that holds something for its holding time, fading in as the player fades it, then the
+// home page held once more. Every frame is the player's own (PaintShowFrame).
+class PackageShowFrames : public ShowFrames {
+public:
+    PackageShowFrames(const PackageContents& package, const ResImages& res,
+                      const QByteArray& defaultBackground);
+
+    QSize frameSize() const override { return pictures_.frame(); }
+    int durationMs() const override;
+    QImage frameAt(int ms) override;
+    int stillUntil(int ms) const override;
+    int stepAt(int ms) const override;
+    int stepCount() const override;
+
+private:
+    ShowPictures pictures_;
+    show::ShowModel model_;
+};
+
+// The package a document generates, made in the work folder and read back: what the
+// recipient's player will show. False with `error` when none could be made; what
+// generating warned about is added to `warnings`.
+bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
+                     PackageContents& package, QStringList& warnings, QString& error);
+
+// The built-in background a package without its own shows on its home page.
+QByteArray DefaultHomeBackground(const ProcessContext& ctx);
+
+// The show of a document as its recipient will see it: its package, shown as above.
+std::unique_ptr<ShowFrames> DocumentShowFrames(const Document& doc, const ProcessContext& ctx,
+                                               const ResImages& res, QStringList& warnings,
+                                               QString& error);
+
+} // namespace zentor
