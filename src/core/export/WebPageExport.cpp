@@ -5,10 +5,10 @@
 #include "export/WebPageTemplate.h"
 #include "export/WebShow.h"
 #include "generate/PackageReader.h"
-#include "io/FileUtil.h"
 #include "model/CodePage.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
+#include "render/HomePage.h"
 #include "render/ImageSave.h"
 #include "render/PageCompositor.h"
 #include "render/ResImages.h"
@@ -17,8 +17,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-
-#include <cmath>
 
 namespace zentor {
 namespace {
@@ -147,11 +145,12 @@ QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, DataUri
         lines.append(o);
     }
 
-    // The caption under the centre picture, as the home picture draws it.
-    const int captionTop = int(std::lround(frame.height() / 2.0)) + 80;
+    // The caption under the centre picture, where the home picture draws it.
+    const QRect box = HomeCaptionBox(frame);
     QJsonArray texts;
-    const QJsonObject caption = TextLayer(PersonName(doc), 0, captionTop, frame.width(), 24,
-                                          QStringLiteral("Arial"), 12, 0, 1, 0);
+    const QJsonObject caption =
+        TextLayer(PersonName(doc), box.left(), box.top(), box.width(), box.height(),
+                  QLatin1String(HomeCaptionFont), HomeCaptionPoints, 0, 1, 0);
     if (!caption.isEmpty())
         texts.append(caption);
     const QImage home = pictures.picture(show::HomePicture);

@@ -25,12 +25,17 @@ QString HomeCaption(const std::array<QString, 9>& tabNames, const QString& perso
     return personName;
 }
 
+QRect HomeCaptionBox(QSize frame) {
+    return QRect(0, show::RoundHalfEven(frame.height() / 2.0) + 80, frame.width(), 24);
+}
+
 IconRectTable PaintHomePage(QPainter& p, QSize frame, const HomePictures& pictures,
                             const QString& caption, const ResImages& res) {
     DrawStretched(p, pictures.background, QRect(QPoint(0, 0), frame));
     const IconRectTable rects = GetCircle(p, frame, pictures.icons);
-    DrawFontText(p, caption, 0, show::RoundHalfEven(frame.height() / 2.0) + 80, frame.width(), 24,
-                 QStringLiteral("Arial"), 12, 0, 1, 0, 0xFFFFFFFFu, -1, 4, 1);
+    const QRect box = HomeCaptionBox(frame);
+    DrawFontText(p, caption, box.left(), box.top(), box.width(), box.height(),
+                 QLatin1String(HomeCaptionFont), HomeCaptionPoints, 0, 1, 0, 0xFFFFFFFFu, -1, 4, 1);
     DrawStretched(p, res.image(ResBorder), Centred(frame, 144));
     DrawStretched(p, pictures.userIcon, Centred(frame, 128));
     return rects;

@@ -3,6 +3,7 @@
 #include "render/IconRing.h"
 
 #include <QImage>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -27,6 +28,12 @@ struct HomePictures {
 // name.
 QString HomeCaption(const std::array<QString, 9>& tabNames, const QString& personName,
                     int hoverIcon);
+
+// Where the caption stands and how it is written: the home page paints it there, and the
+// web page lays the same words over it.
+QRect HomeCaptionBox(QSize frame);
+inline constexpr char HomeCaptionFont[] = "Arial";
+inline constexpr int HomeCaptionPoints = 12;
 
 // Paints the profile page on a frame-sized surface: background, the ring of tab icons,
 // the caption (white with a shadow), the border and the user icon. Returns the ring's
