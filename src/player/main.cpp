@@ -139,6 +139,10 @@ int main(int argc, char** argv) {
     if (!options.exportDir.isEmpty())
         if (const int status = exportTo(package, options.exportDir))
             return status;
+    // The show's pictures are decoded only when something will be drawn.
+    const bool draws = options.frameMs >= 0 || !headless;
+    if (!draws)
+        return package.Problems.isEmpty() ? 0 : 1;
     const ResImages res = ResImages::load();
     const ShowPictures pictures(package, res, DefaultBackground());
     if (options.frameMs >= 0)
