@@ -29,13 +29,6 @@ MusicSettings MusicSettingsOf(const PackageInfo& p) {
     return MusicSettingsOf(p.Header, present);
 }
 
-int OrderIndexOf(int picture) {
-    for (size_t i = 0; i < PageOrder.size(); ++i)
-        if (PageOrder[i] == picture)
-            return int(i);
-    return -1;
-}
-
 std::vector<int> ShowOrder(const std::array<bool, Package::EntryCount>& empty) {
     std::vector<int> order;
     for (int entry : PageOrder)

@@ -37,9 +37,6 @@ inline constexpr int HomePicture = -1;
 // the slide-show page (tab 8).
 inline constexpr std::array<int, Package::PageCount> PageOrder = {17, 16, 15, 14, 13, 12, 11, 18};
 
-// Position of a picture in PageOrder; -1 for the home page or an unknown entry.
-int OrderIndexOf(int picture);
-
 // The show's pages: PageOrder without the pages that hold nothing (`empty` by package
 // entry, 11..18), which the show and paging pass over.
 std::vector<int> ShowOrder(const std::array<bool, Package::EntryCount>& empty);

@@ -86,10 +86,6 @@ ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
     order_ = show::ShowOrder(empty);
 }
 
-QString ShowPictures::tabName(int icon) const {
-    return icon >= 1 && icon <= 8 ? tabNames_[size_t(icon)].trimmed() : QString();
-}
-
 QImage ShowPictures::paintHome(int hoverIcon) const {
     // A carried picture that cannot be decoded gives way to the built-in one.
     const auto carried = [this](int entry, QSize size, const QImage& builtIn) {

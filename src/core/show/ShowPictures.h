@@ -35,8 +35,6 @@ public:
     const show::HomeLayout& contacts() const { return contacts_; }
     // The pages the show runs through: those that hold something (see IsFlatPicture).
     const std::vector<int>& showOrder() const { return order_; }
-    // The name the home page shows while the pointer is over ring icon 1..8.
-    QString tabName(int icon) const;
 
     // The picture of a ScreenState (HomePicture or a page entry) at frame size; the home
     // page with `hoverIcon`'s caption. A page that cannot be decoded is the back colour.
