@@ -42,8 +42,11 @@ const GlyphFont& GlyphFontFor(const QString& family, int style, int size, int hi
         glyphFonts.clear();
     // Other threads drop theirs when they end; the main thread's goes with the application.
     const QCoreApplication* app = QCoreApplication::instance();
-    if (glyphFonts.isEmpty() && app && QThread::currentThread() == app->thread())
+    static bool dropAtExit = false; // read and set on the main thread only
+    if (!dropAtExit && app && QThread::currentThread() == app->thread()) {
+        dropAtExit = true;
         qAddPostRoutine([] { glyphFonts.clear(); });
+    }
     const QFont layoutFont = LayoutFont(family, style);
     QFont shapes = layoutFont;
     const double exact = LayoutScale(size) * shapes.pixelSize();
