@@ -16,7 +16,10 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Vitara Zentor"));
     QApplication::setOrganizationName(QStringLiteral("Vitara")); // where the recent files live
 
-    ProcessContext ctx = ProcessContext::create(QApplication::applicationDirPath());
+    // A work folder of its own: editors running side by side never share or remove each
+    // other's recovery file or package; one left by a killed editor is offered at the next start.
+    ProcessContext ctx =
+        ProcessContext::createPrivate(QApplication::applicationDirPath(), QStringLiteral("zentor"));
     ctx.CommandLine = CommandLineFromArguments(QApplication::arguments().mid(1));
     auto doc = std::make_unique<Document>();
     NewDocument(*doc, ctx);

@@ -2,7 +2,6 @@
 #include "edit/DropFiles.h"
 #include "edit/ObjectList.h"
 #include "edit/RecentFiles.h"
-#include "edit/Recovery.h"
 #include "io/ScriptFile.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +10,6 @@
 #include <QFile>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace zentor;
 using namespace zentor::test;
@@ -112,67 +110,6 @@ TEST(RecentFiles, TheLatestComesFirstOnceEightAreKeptAndAMissingOneIsTold) {
     f.prompter.expectWarning(QStringLiteral("Open File"), MissingRecentText(gone));
     EXPECT_FALSE(f.editor.openRecent(gone)); // the menu drops it
     EXPECT_PROMPTS_DONE(f.prompter);
-}
-
-// A recovery file as a run with process `pid` would have left it.
-void LeaveRecovery(const Sandbox& box, const Document& doc, qint64 pid) {
-    const QString ours = RecoveryFile(box.ctx, getpid());
-    ASSERT_TRUE(Autosave(doc, box.ctx));
-    ASSERT_TRUE(QFile::rename(ours, RecoveryFile(box.ctx, pid)));
-    ASSERT_TRUE(
-        QFile::rename(ours.chopped(4) + ".path", RecoveryFile(box.ctx, pid).chopped(4) + ".path"));
-}
-
-TEST(Recovery, AutosaveKeepsOnlyUnsavedWorkAndAnExitRemovesIt) {
-    Sandbox box;
-    auto doc = box.newDocument();
-    const QString file = RecoveryFile(box.ctx, getpid());
-    for (bool dirty : {true, false, true}) {
-        doc->Dirty = dirty;
-        EXPECT_EQ(Autosave(*doc, box.ctx), dirty);
-        EXPECT_EQ(ReadAll(file), dirty ? SavedBytes(*doc) : QByteArray());
-    }
-    EXPECT_TRUE(LeftBehindRecovery(box.ctx).isEmpty()); // our own run is alive
-    RemoveRecovery(box.ctx);
-    EXPECT_TRUE(QDir(box.ctx.WorkFolder).entryList(QDir::Files).isEmpty());
-}
-
-TEST(Recovery, WorkOfARunThatIsGoneIsOfferedAndRemovedWhateverTheAnswer) {
-    const qint64 gonePid = 999999999; // beyond any pid the system hands out
-    for (Answer answer : {Answer::Yes, Answer::No}) {
-        SCOPED_TRACE(answer == Answer::Yes ? "Yes" : "No");
-        EditorFixture f;
-        auto lost = f.box.newDocument();
-        lost->Profile.FirstName = QStringLiteral("Grace");
-        PlaceText(*lost, 4, 3, QRect(5, 5, 50, 20), QStringLiteral("unsaved"));
-        lost->ScriptPath = f.box.path(QStringLiteral("cv.qds"));
-        lost->Dirty = true;
-        LeaveRecovery(f.box, *lost, gonePid);
-        const QByteArray fresh = SavedBytes(*f.doc);
-
-        f.prompter.expectAsk(QStringLiteral("Recover Work"),
-                             QStringLiteral("Vitara Zentor did not end normally last time. Do you "
-                                            "want to restore the work it had not saved?"),
-                             answer);
-        f.editor.offerRecovery();
-        EXPECT_PROMPTS_DONE(f.prompter);
-        if (answer == Answer::Yes) {
-            EXPECT_EQ(SavedBytes(*f.doc), SavedBytes(*lost));
-            EXPECT_EQ(f.doc->ScriptPath, lost->ScriptPath);
-            EXPECT_TRUE(f.doc->Dirty);
-            // Restored work is unsaved even after an edit is taken back.
-            f.showTab(3);
-            f.editor.menuCommand(CmdInsertText);
-            f.editor.undo();
-            EXPECT_TRUE(f.doc->Dirty);
-        } else {
-            EXPECT_EQ(SavedBytes(*f.doc), fresh);
-            EXPECT_FALSE(f.doc->Dirty);
-        }
-        EXPECT_TRUE(QDir(f.box.ctx.WorkFolder).entryList(QDir::Files).isEmpty());
-        f.editor.offerRecovery(); // asked once only
-        EXPECT_PROMPTS_DONE(f.prompter);
-    }
 }
 
 } // namespace

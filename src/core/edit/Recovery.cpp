@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
+
 #include <unistd.h>
 
 namespace zentor {
@@ -28,6 +30,23 @@ bool WriteAtomically(const QString& path, const QByteArray& bytes) {
 void RemoveFiles(const QString& recovery) {
     QFile::remove(recovery);
     QFile::remove(PathFileOf(recovery));
+}
+
+QStringList RecoveryIn(const QStringList& folders) {
+    QFileInfoList files;
+    for (const QString& folder : folders)
+        files += QDir(folder).entryInfoList({Prefix + QStringLiteral("*.qds")}, QDir::Files);
+    std::sort(files.begin(), files.end(), [](const QFileInfo& a, const QFileInfo& b) {
+        return a.lastModified() > b.lastModified();
+    });
+    QStringList found;
+    for (const QFileInfo& f : files)
+        found << f.filePath();
+    return found;
+}
+
+QStringList LeftBehindFolders(const ProcessContext& ctx) {
+    return ctx.Program.isEmpty() ? QStringList() : StaleWorkFolders(ctx.RunsFolder, ctx.Program);
 }
 
 } // namespace
@@ -53,23 +72,21 @@ void RemoveRecovery(const ProcessContext& ctx) {
 }
 
 QStringList LeftBehindRecovery(const ProcessContext& ctx) {
-    QStringList found;
-    const QFileInfoList files =
-        QDir(ctx.WorkFolder)
-            .entryInfoList({Prefix + QStringLiteral("*.qds")}, QDir::Files, QDir::Time);
-    for (const QFileInfo& f : files) {
-        bool ok = false;
-        const qint64 pid = f.completeBaseName().mid(Prefix.size()).toLongLong(&ok);
-        if (ok && pid > 0 && ProcessGone(pid))
-            found << f.filePath();
-    }
-    return found;
+    return RecoveryIn(LeftBehindFolders(ctx));
 }
 
 bool OfferRecovery(Document& doc, const ProcessContext& ctx, Prompter& prompter) {
-    const QStringList found = LeftBehindRecovery(ctx);
-    if (found.isEmpty())
+    // Listed once: a run that dies while the question is open keeps its folder for the next start.
+    const QStringList left = LeftBehindFolders(ctx);
+    const QStringList found = RecoveryIn(left);
+    const auto removeLeft = [&left] {
+        for (const QString& folder : left)
+            QDir(folder).removeRecursively();
+    };
+    if (found.isEmpty()) {
+        removeLeft();
         return false;
+    }
     const bool restore =
         prompter.ask(QStringLiteral("Recover Work"),
                      QStringLiteral("Vitara Zentor did not end normally last time. Do you want "
@@ -93,8 +110,7 @@ bool OfferRecovery(Document& doc, const ProcessContext& ctx, Prompter& prompter)
         }
     }
     // Older ones are earlier states of lost runs: offering them one by one helps nobody.
-    for (const QString& f : found)
-        RemoveFiles(f);
+    removeLeft();
     return restored;
 }
 

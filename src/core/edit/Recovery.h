@@ -9,9 +9,9 @@
 
 namespace zentor {
 
-// Unsaved work is kept in the work folder as recovery-<pid>.qds (the project's own path
-// beside it in recovery-<pid>.path), so that a run that did not end normally can be told
-// from one that is still running.
+// Unsaved work is kept in this run's own work folder as recovery-<pid>.qds (the project's own
+// path beside it in recovery-<pid>.path). A run that did not end normally leaves its folder
+// behind, told from a live run's by the pid in the folder's name.
 QString RecoveryFile(const ProcessContext& ctx, qint64 pid);
 
 // Each minute: a changed document is written to this run's recovery file (atomically, so a
@@ -20,12 +20,14 @@ bool Autosave(const Document& doc, const ProcessContext& ctx);
 // A normal exit: this run leaves nothing to recover.
 void RemoveRecovery(const ProcessContext& ctx);
 
-// Recovery files of runs whose process is gone, newest first.
+// Recovery files in the work folders that runs of ctx.Program which are gone left in
+// ctx.RunsFolder, newest first.
 QStringList LeftBehindRecovery(const ProcessContext& ctx);
 
 // At start: when a run that is gone left unsaved work, asks whether to restore it. Yes
 // replaces `doc` by that work, under its project path and marked changed. Whatever the
-// answer, what was left behind is removed. True when restored.
+// answer, the work folders of runs that are gone are removed then, never a live run's.
+// True when restored.
 bool OfferRecovery(Document& doc, const ProcessContext& ctx, Prompter& prompter);
 
 } // namespace zentor

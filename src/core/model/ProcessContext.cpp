@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <cerrno>
 #include <csignal>
@@ -14,15 +15,36 @@ QString withSlash(QString path) {
         path += QLatin1Char('/');
     return path;
 }
+
+ProcessContext WithWorkFolder(const QString& appDir, const QString& workFolder) {
+    ProcessContext ctx;
+    ctx.AppPath = withSlash(QDir(appDir).absolutePath());
+    ctx.WorkFolder = withSlash(workFolder);
+    ctx.TempImagePath = ctx.WorkFolder + QStringLiteral("tempgen.jpg");
+    ctx.ensureWorkFolder();
+    return ctx;
+}
+
+QString TempOr(const QString& tempDir) {
+    return tempDir.isEmpty() ? QDir::tempPath() : tempDir;
+}
+
 } // namespace
 
 ProcessContext ProcessContext::create(const QString& appDir, const QString& tempDir) {
-    ProcessContext ctx;
-    ctx.AppPath = withSlash(QDir(appDir).absolutePath());
-    const QString temp = tempDir.isEmpty() ? QDir::tempPath() : tempDir;
-    ctx.WorkFolder = withSlash(temp) + QStringLiteral("Zentor/");
-    ctx.TempImagePath = ctx.WorkFolder + QStringLiteral("tempgen.jpg");
-    ctx.ensureWorkFolder();
+    return WithWorkFolder(appDir, withSlash(TempOr(tempDir)) + QStringLiteral("Zentor/"));
+}
+
+ProcessContext ProcessContext::createPrivate(const QString& appDir, const QString& program,
+                                             const QString& tempDir) {
+    const QString temp = TempOr(tempDir);
+    QTemporaryDir dir(PrivateWorkTemplate(temp, program));
+    dir.setAutoRemove(false); // it goes with removeWorkFolder, or stays when the run is killed
+    // Should the temp folder refuse a unique name, the template still names this run's pid.
+    ProcessContext ctx =
+        WithWorkFolder(appDir, dir.isValid() ? dir.path() : PrivateWorkTemplate(temp, program));
+    ctx.Program = program;
+    ctx.RunsFolder = withSlash(QDir(temp).absolutePath());
     return ctx;
 }
 
@@ -40,9 +62,9 @@ QString PrivateWorkTemplate(const QString& tempDir, const QString& program) {
            QStringLiteral("-XXXXXX");
 }
 
-int RemoveStaleWorkFolders(const QString& tempDir, const QString& program) {
+QStringList StaleWorkFolders(const QString& tempDir, const QString& program) {
     const QString prefix = program + QLatin1Char('-');
-    int removed = 0;
+    QStringList stale;
     const QStringList names =
         QDir(tempDir).entryList({prefix + QLatin1Char('*')}, QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString& name : names) {
@@ -52,11 +74,17 @@ int RemoveStaleWorkFolders(const QString& tempDir, const QString& program) {
         const qint64 pid = rest.section(QLatin1Char('-'), 0, 0).toLongLong(&ok);
         if (!ok || pid <= 0 || !rest.contains(QLatin1Char('-')))
             continue;
-        if (!ProcessGone(pid))
-            continue;
-        if (QDir(withSlash(tempDir) + name).removeRecursively())
-            ++removed;
+        if (ProcessGone(pid))
+            stale << withSlash(tempDir) + name;
     }
+    return stale;
+}
+
+int RemoveStaleWorkFolders(const QString& tempDir, const QString& program) {
+    int removed = 0;
+    for (const QString& folder : StaleWorkFolders(tempDir, program))
+        if (QDir(folder).removeRecursively())
+            ++removed;
     return removed;
 }
 
