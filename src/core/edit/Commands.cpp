@@ -5,6 +5,7 @@
 #include "edit/StatusText.h"
 #include "edit/TabNavigation.h"
 #include "edit/ZOrder.h"
+#include "io/MediaFiles.h"
 #include "io/ScriptFile.h"
 #include "model/DefaultDocument.h"
 
@@ -199,10 +200,18 @@ bool Editor::save(bool alwaysAsk) {
         }
     }
     recordPending();
-    if (!SaveScript(doc_, path)) {
+    // Saved into another folder, relative media paths are rebased so they still name the
+    // same files; the document takes them only once the file is written.
+    const QString from = doc_.ScriptPath;
+    Document saved = RecordsOf(doc_);
+    RebaseMediaPaths(saved, from, path);
+    if (!SaveScript(saved, path)) {
         view_.setPointer(EditorView::PointerTarget::Window, EditorView::Pointer::Normal);
         prompter_.warn(SaveTitle, QStringLiteral("Can't save file : ") + path);
     } else {
+        doc_ = saved;
+        undo_.rewrite([&](DocumentRecords& r) { RebaseMediaPaths(r, from, path); });
+        base_ = RecordsOf(doc_);
         lastSaveWritten_ = true;
         undo_.setClean();
         view_.projectFileUsed(doc_.ScriptPath);

@@ -80,6 +80,13 @@ void UndoStack::clear() {
     mergeKey_.clear();
 }
 
+void UndoStack::rewrite(const std::function<void(DocumentRecords&)>& f) {
+    for (Step& s : steps_) {
+        f(s.before);
+        f(s.after);
+    }
+}
+
 void UndoStack::setClean() {
     clean_ = index_;
     mergeKey_.clear();

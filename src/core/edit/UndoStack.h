@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace zentor {
@@ -44,6 +45,9 @@ public:
     bool isClean() const { return index_ == clean_; }
     // The document matches no saved file (restored work): no point of the history is clean.
     void markUnsaved() { clean_ = -1; }
+    // Applies `f` to every state of the history, for what must hold in all of them (media
+    // paths made relative to where the project now lies).
+    void rewrite(const std::function<void(DocumentRecords&)>& f);
     // A following change starts a step of its own even with the same merge key.
     void breakMerge() { mergeKey_.clear(); }
 

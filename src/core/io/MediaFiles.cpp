@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFileInfo>
 #include <QHash>
 
 namespace zentor {
@@ -66,6 +67,21 @@ QString StoredFileName(const QString& stored) {
     const qsizetype cut =
         std::max(stored.lastIndexOf(QLatin1Char('/')), stored.lastIndexOf(QLatin1Char('\\')));
     return stored.mid(cut + 1);
+}
+
+void RebaseMediaPaths(Document& doc, const QString& fromScript, const QString& toScript) {
+    if (fromScript.isEmpty())
+        return;
+    const QDir to = QFileInfo(toScript).absoluteDir();
+    if (QFileInfo(fromScript).absoluteDir() == to)
+        return;
+    ForEachMediaField(doc, [&](const QString& stored, const auto& store) {
+        if (QDir::isAbsolutePath(stored))
+            return;
+        const QString file = ResolvePath(fromScript, stored);
+        if (!store(to.relativeFilePath(file)))
+            store(file);
+    });
 }
 
 int FindMissingMedia(Document& doc, const QString& folder) {

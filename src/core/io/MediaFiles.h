@@ -27,6 +27,12 @@ QStringList MissingMedia(const Document& doc);
 // The file name of a stored path, whichever separator it was written with.
 QString StoredFileName(const QString& stored);
 
+// Points the relative paths, made against the folder of `fromScript`, at the same files from
+// the folder of `toScript`, so that a project saved elsewhere still finds its media (a path
+// that no longer fits its field as a relative one is stored whole). Nothing changes when
+// the folder stays or `fromScript` is empty.
+void RebaseMediaPaths(Document& doc, const QString& fromScript, const QString& toScript);
+
 // Looks in `folder` and its subfolders for the missing files by file name (the shallowest
 // match wins) and points every field that named one at the file found. Returns how many of
 // the missing files were found; the document is dirty when any was.

@@ -1,0 +1,93 @@
+#include "EditFakeView.h"
+#include "io/MediaFiles.h"
+#include "io/ScriptFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+using namespace zentor;
+using namespace zentor::test;
+
+namespace {
+
+const QString Filter = QStringLiteral("*.qds|*.qds|*.*|*.*");
+
+struct MediaProject : EditorFixture {
+    MediaProject() {
+        QDir(box.dir.path()).mkpath(QStringLiteral("photos"));
+        Solid(40, 30, 0xff336699).save(box.path(QStringLiteral("photos/face.png")), "PNG");
+        Solid(80, 60, 0xff996633).save(box.path(QStringLiteral("photos/page.png")), "PNG");
+        WriteAll(box.path(QStringLiteral("photos/song.mp3")), QByteArray(64, 'm'));
+        doc->Profile.UserIcon = box.path(QStringLiteral("photos/face.png"));
+        doc->Header.BackMusic = box.path(QStringLiteral("photos/song.mp3"));
+        PlaceImage(*doc, 1, 2, QRect(10, 10, 80, 60), box.path(QStringLiteral("photos/page.png")));
+    }
+    // Save As through the editor, the dialog answering `path`.
+    void saveAs(const QString& path) {
+        prompter.expectFile(true, QStringLiteral("Save as QDV Script File"), Filter, path);
+        editor.menuCommand(CmdSaveAs);
+    }
+    QStringList storedPaths() {
+        QStringList stored;
+        ForEachMediaField(*doc, [&](const QString& s, const auto&) { stored << s; });
+        return stored;
+    }
+};
+
+TEST(SaveAs, CollectedMediaStillResolvesFromAnotherFolderAndThroughUndo) {
+    MediaProject f;
+    QDir(f.box.dir.path()).mkpath(QStringLiteral("old"));
+    f.saveAs(f.box.path(QStringLiteral("old/cv.qds")));
+    f.editor.menuCommand(CmdCollectMedia);
+    const QStringList collected = f.storedPaths();
+    ASSERT_GE(collected.size(), 3);
+    for (const QString& p : collected)
+        ASSERT_TRUE(p.startsWith(QStringLiteral("cv media/"))) << qPrintable(p);
+    f.showTab(2);
+    f.editor.menuCommand(CmdInsertText); // a step after the collection, to undo later
+
+    // The same folder keeps the paths as they are.
+    f.saveAs(f.box.path(QStringLiteral("old/copy.qds")));
+    EXPECT_EQ(f.storedPaths(), collected);
+
+    QDir(f.box.dir.path()).mkpath(QStringLiteral("new/deeper"));
+    const QString moved = f.box.path(QStringLiteral("new/deeper/cv.qds"));
+    f.saveAs(moved);
+    EXPECT_PROMPTS_DONE(f.prompter);
+    EXPECT_TRUE(f.storedPaths().contains(QStringLiteral("../../old/cv media/song.mp3")));
+    EXPECT_TRUE(MissingMedia(*f.doc).isEmpty()) << qPrintable(MissingMedia(*f.doc).join('\n'));
+    EXPECT_FALSE(f.doc->Dirty);
+
+    auto reopened = f.box.newDocument();
+    ASSERT_TRUE(LoadScript(*reopened, moved).opened);
+    EXPECT_EQ(MediaFiles(*reopened), MediaFiles(*f.doc));
+    EXPECT_TRUE(MissingMedia(*reopened).isEmpty());
+
+    // Every earlier state of the history lies where the project now is, too.
+    f.editor.undo();
+    EXPECT_TRUE(MissingMedia(*f.doc).isEmpty());
+    EXPECT_TRUE(f.doc->Dirty);
+    f.editor.redo();
+    EXPECT_TRUE(MissingMedia(*f.doc).isEmpty());
+    EXPECT_FALSE(f.doc->Dirty); // back at the saved state, not an edit
+    EXPECT_EQ(f.editor.undoStack().undoName(), QStringLiteral("Insert text 1"));
+}
+
+TEST(SaveAs, ARefusedSaveLeavesPathsAndProjectAsTheyWere) {
+    MediaProject f;
+    QDir(f.box.dir.path()).mkpath(QStringLiteral("old"));
+    f.saveAs(f.box.path(QStringLiteral("old/cv.qds")));
+    f.editor.menuCommand(CmdCollectMedia);
+    const QStringList collected = f.storedPaths();
+    const QString nowhere = f.box.path(QStringLiteral("missing/folder/cv.qds"));
+    f.prompter.expectWarning(QStringLiteral("Save QDV Script File"),
+                             QStringLiteral("Can't save file : ") + nowhere);
+    f.saveAs(nowhere);
+    EXPECT_PROMPTS_DONE(f.prompter);
+    EXPECT_EQ(f.storedPaths(), collected);
+    EXPECT_EQ(f.doc->ScriptPath, f.box.path(QStringLiteral("old/cv.qds")));
+    EXPECT_TRUE(MissingMedia(*f.doc).isEmpty());
+}
+
+} // namespace
