@@ -1,6 +1,5 @@
 #include "editor/FrmMain.h"
 
-#include "VideoExportRun.h"
 #include "edit/StatusText.h"
 #include "edit/WorkspaceLayout.h"
 #include "editor/Autosave.h"
@@ -112,12 +111,12 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         return generator_->writtenPath();
     });
     editor_.setExporter([this, check](int command) {
-        const bool pdf = command == CmdExportPdf;
-        ProgressRun run(this,
-                        pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page"));
+        const ExportKind kind = command == CmdExportPdf       ? ExportKind::Pdf
+                                : command == CmdExportWebPage ? ExportKind::WebPage
+                                                              : ExportKind::Video;
+        ProgressRun run(this, ExportTitle(kind));
         QString written;
-        RunExport(pdf ? ExportKind::Pdf : ExportKind::WebPage, doc_, prompter_, res_, ctx_,
-                  run.progress(), &written);
+        RunExport(kind, doc_, prompter_, res_, ctx_, run.progress(), &written);
         if (!written.isEmpty())
             check->reportAfterOutput();
         return written;
@@ -192,15 +191,7 @@ void FrmMain::buildMenus() {
     QAction* video = new QAction(QStringLiteral("Export &Video..."), mainFile_);
     video->setObjectName(QStringLiteral("SubFileVideo"));
     mainFile_->insertAction(findChild<QAction*>(QStringLiteral("SubFile6")), video);
-    connect(video, &QAction::triggered, this, [this] {
-        panes_->commitPendingEdit();
-        editor_.commitInPlaceEdit();
-        const QString written = ExportVideoInteractive(this, doc_, res_, ctx_);
-        if (!written.isEmpty()) {
-            setStatusText(WrittenStatus(written));
-            findChild<CheckUi*>()->reportAfterOutput();
-        }
-    });
+    connect(video, &QAction::triggered, this, [this] { command(CmdExportVideo); });
 
     recent_ = new RecentFilesMenu(new QMenu(QStringLiteral("Open &Recent"), mainFile_), editor_,
                                   [this] { panes_->commitPendingEdit(); });

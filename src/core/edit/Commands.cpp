@@ -109,6 +109,7 @@ void Editor::CommonModth(int index) {
         break;
     case CmdExportPdf:
     case CmdExportWebPage:
+    case CmdExportVideo:
         view_.setPointer(window, Pointer::Hourglass);
         if (export_) {
             const QString written = export_(index);

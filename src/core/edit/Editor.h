@@ -32,6 +32,7 @@ enum Command : int {
     CmdExportWebPage = 19,
     CmdPlay = 20,
     CmdCollectMedia = 21,
+    CmdExportVideo = 22,
 };
 
 enum class MouseButton { Left, Right, Middle };
@@ -56,7 +57,8 @@ public:
     EditorState& state() { return st_; }
     // Generation is reached through this (the default does nothing).
     void setGenerator(Generator g) { generate_ = std::move(g); }
-    // The export commands (CmdExportPdf, CmdExportWebPage) are reached through this.
+    // The export commands (CmdExportPdf, CmdExportWebPage, CmdExportVideo) are reached
+    // through this.
     void setExporter(Exporter e) { export_ = std::move(e); }
     // Play Résumé starts the player through this.
     void setLauncher(Launcher l) { launch_ = std::move(l); }

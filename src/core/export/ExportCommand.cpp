@@ -1,7 +1,9 @@
 #include "export/ExportCommand.h"
 
 #include "edit/Prompter.h"
+#include "export/PackageShowFrames.h"
 #include "export/PdfExport.h"
+#include "export/VideoExport.h"
 #include "export/WebPageExport.h"
 #include "model/Document.h"
 
@@ -10,13 +12,60 @@
 
 namespace zentor {
 
+namespace {
+
+// The show recorded as the player runs it; ExportVideo writes beside `path` itself.
+bool WriteVideo(const Document& doc, const QString& path, const ResImages& res,
+                const ProcessContext& ctx, QString& error, const Progress& progress,
+                QStringList& warnings) {
+    const auto show = DocumentShowFrames(doc, ctx, res, warnings, error);
+    if (!show)
+        return false;
+    const VideoResult result = ExportVideo(doc, *show, path, VideoOptions{}, progress);
+    warnings += result.warnings;
+    if (result.outcome == VideoResult::Outcome::Failed)
+        error = result.error;
+    return result.outcome == VideoResult::Outcome::Written;
+}
+
+struct ExportNames {
+    QString title, ext;
+};
+
+ExportNames NamesOf(ExportKind kind) {
+    switch (kind) {
+    case ExportKind::Pdf:
+        return {QStringLiteral("Export PDF"), QStringLiteral(".pdf")};
+    case ExportKind::WebPage:
+        return {QStringLiteral("Export Web Page"), QStringLiteral(".html")};
+    case ExportKind::Video:
+        break;
+    }
+    return {QStringLiteral("Export Video"), QStringLiteral(".mp4")};
+}
+
+} // namespace
+
+QString ExportTitle(ExportKind kind) {
+    return NamesOf(kind).title;
+}
+
 bool WriteExport(ExportKind kind, const Document& doc, const QString& path, const ResImages& res,
-                 const ProcessContext& ctx, QString* error, const Progress& progress) {
+                 const ProcessContext& ctx, QString* error, const Progress& progress,
+                 QStringList* warnings) {
     const auto fail = [&](const QString& why) {
         if (error)
             *error = why;
         return false;
     };
+    if (kind == ExportKind::Video) {
+        QString why;
+        QStringList told;
+        const bool written = WriteVideo(doc, path, res, ctx, why, progress, told);
+        if (warnings)
+            *warnings += told;
+        return written || fail(why);
+    }
     bool cancelled = false;
     const Progress watched = [&](int page, int pages) {
         cancelled = !GoOn(progress, page, pages);
@@ -39,9 +88,7 @@ bool WriteExport(ExportKind kind, const Document& doc, const QString& path, cons
 
 bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const ResImages& res,
                const ProcessContext& ctx, const Progress& progress, QString* written) {
-    const bool pdf = kind == ExportKind::Pdf;
-    const QString title = pdf ? QStringLiteral("Export PDF") : QStringLiteral("Export Web Page");
-    const QString ext = pdf ? QStringLiteral(".pdf") : QStringLiteral(".html");
+    const auto [title, ext] = NamesOf(kind);
     QString path =
         prompter.chooseFile(true, title, QLatin1Char('*') + ext + QStringLiteral("|*") + ext);
     if (path.isEmpty())
@@ -53,7 +100,11 @@ bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const R
             title, QStringLiteral("This file already exists. Do you want to overwrite it?")))
         return false;
     QString error;
-    if (WriteExport(kind, doc, path, res, ctx, &error, progress)) {
+    QStringList warnings;
+    if (WriteExport(kind, doc, path, res, ctx, &error, progress, &warnings)) {
+        if (!warnings.isEmpty())
+            prompter.ask(title, warnings.join(QLatin1Char('\n')), Prompter::Buttons::Ok,
+                         Prompter::Icon::Information, Prompter::Answer::Ok);
         if (written)
             *written = path;
         return true;
