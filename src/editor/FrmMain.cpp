@@ -38,7 +38,6 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QTimer>
 #include <QToolBar>
 
 namespace zentor {
@@ -133,17 +132,11 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         size = size.boundedTo(screen->availableSize());
     resize(size);
     updateTitle();
-    // Edits set the document's flag from many places (panes, dialogs, typing in place); the
-    // title's modified mark follows it a few times a second.
-    auto* titleTimer = new QTimer(this);
-    connect(titleTimer, &QTimer::timeout, this, [this] {
-        if (isWindowModified() != doc_.Dirty)
-            updateTitle();
-    });
-    titleTimer->start(200);
+    doc_.Dirty.watch([this](bool) { updateTitle(); });
 }
 
 FrmMain::~FrmMain() {
+    doc_.Dirty.watch({}); // the document outlives the window
     if (hourglass_)
         QApplication::restoreOverrideCursor();
     // The controls outlive the editor (they go with the QObject base): nothing they report

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/DirtyFlag.h"
 #include "model/Records.h"
 
 #include <QString>
@@ -25,7 +26,7 @@ struct Document {
     std::array<ImageElement, MaxImages + 1> Images;
     std::array<TextElement, MaxTexts + 1> Texts;
     QString ScriptPath; // the project file last saved or opened; empty for a new document
-    bool Dirty = false;
+    DirtyFlag Dirty;
 };
 
 // An object slot is in use when its TabNo is 1 or more.
