@@ -28,6 +28,13 @@ struct MediaProject : EditorFixture {
         prompter.expectFile(true, QStringLiteral("Save as QDV Script File"), Filter, path);
         editor.menuCommand(CmdSaveAs);
     }
+    // Saved as old/cv.qds with its media collected beside it; the paths then stored.
+    QStringList collectIntoOld() {
+        QDir(box.dir.path()).mkpath(QStringLiteral("old"));
+        saveAs(box.path(QStringLiteral("old/cv.qds")));
+        editor.menuCommand(CmdCollectMedia);
+        return storedPaths();
+    }
     QStringList storedPaths() {
         QStringList stored;
         ForEachMediaField(*doc, [&](const QString& s, const auto&) { stored << s; });
@@ -37,10 +44,7 @@ struct MediaProject : EditorFixture {
 
 TEST(SaveAs, CollectedMediaStillResolvesFromAnotherFolderAndThroughUndo) {
     MediaProject f;
-    QDir(f.box.dir.path()).mkpath(QStringLiteral("old"));
-    f.saveAs(f.box.path(QStringLiteral("old/cv.qds")));
-    f.editor.menuCommand(CmdCollectMedia);
-    const QStringList collected = f.storedPaths();
+    const QStringList collected = f.collectIntoOld();
     ASSERT_GE(collected.size(), 3);
     for (const QString& p : collected)
         ASSERT_TRUE(p.startsWith(QStringLiteral("cv media/"))) << qPrintable(p);
@@ -76,10 +80,7 @@ TEST(SaveAs, CollectedMediaStillResolvesFromAnotherFolderAndThroughUndo) {
 
 TEST(SaveAs, ARefusedSaveLeavesPathsAndProjectAsTheyWere) {
     MediaProject f;
-    QDir(f.box.dir.path()).mkpath(QStringLiteral("old"));
-    f.saveAs(f.box.path(QStringLiteral("old/cv.qds")));
-    f.editor.menuCommand(CmdCollectMedia);
-    const QStringList collected = f.storedPaths();
+    const QStringList collected = f.collectIntoOld();
     const QString nowhere = f.box.path(QStringLiteral("missing/folder/cv.qds"));
     f.prompter.expectWarning(QStringLiteral("Save QDV Script File"),
                              QStringLiteral("Can't save file : ") + nowhere);

@@ -13,7 +13,8 @@ public:
     using Watcher = std::function<void(bool)>;
 
     DirtyFlag(bool value = false) : value_(value) {}
-    DirtyFlag(const DirtyFlag& other) : value_(other.value_) {}
+    // noexcept, so that tables of documents (the undo history) move rather than copy them.
+    DirtyFlag(const DirtyFlag& other) noexcept : value_(other.value_) {}
     DirtyFlag& operator=(const DirtyFlag& other) { return *this = other.value_; }
     DirtyFlag& operator=(bool value) {
         if (value != value_) {
