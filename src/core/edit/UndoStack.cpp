@@ -3,6 +3,7 @@
 #include "edit/ObjectList.h"
 
 #include <algorithm>
+#include <type_traits>
 
 namespace zentor {
 
@@ -10,6 +11,8 @@ namespace {
 
 // A step holds two document copies; older steps fall off beyond this.
 constexpr int MaxSteps = 64;
+// The history grows by whole documents: they must move, never be copied, when it does.
+static_assert(std::is_nothrow_move_constructible_v<Document>);
 
 // The counts are worked out anew whenever the header is written.
 ScriptHeader Uncounted(ScriptHeader h) {
