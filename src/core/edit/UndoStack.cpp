@@ -88,9 +88,10 @@ bool UndoStack::undo(Document& doc) {
 bool UndoStack::redo(Document& doc) {
     if (!canRedo())
         return false;
-    restore(steps_[index_].after, doc);
+    // Moved on first: restoring tells Dirty from where the history now stands.
     ++index_;
     mergeKey_.clear();
+    restore(steps_[index_ - 1].after, doc);
     return true;
 }
 
