@@ -82,9 +82,10 @@ TEST(SaveAs, ARefusedSaveLeavesPathsAndProjectAsTheyWere) {
     MediaProject f;
     const QStringList collected = f.collectIntoOld();
     const QString nowhere = f.box.path(QStringLiteral("missing/folder/cv.qds"));
+    f.prompter.expectFile(true, QStringLiteral("Save as QDV Script File"), Filter, nowhere);
     f.prompter.expectWarning(QStringLiteral("Save QDV Script File"),
                              QStringLiteral("Can't save file : ") + nowhere);
-    f.saveAs(nowhere);
+    f.editor.menuCommand(CmdSaveAs);
     EXPECT_PROMPTS_DONE(f.prompter);
     EXPECT_EQ(f.storedPaths(), collected);
     EXPECT_EQ(f.doc->ScriptPath, f.box.path(QStringLiteral("old/cv.qds")));
