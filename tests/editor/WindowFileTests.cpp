@@ -47,19 +47,20 @@ protected:
 // The mark follows each change the moment it is made, whoever made it: no events are
 // processed between the change and the look at the title.
 TEST_F(WindowFileTest, TheTitleMarkFollowsEachChangeAtOnce) {
-    auto* firstName = find<QLineEdit>("TxtFirstName");
-    QTest::keyClick(firstName, Qt::Key_A);
+    QTest::keyClick(find<QLineEdit>("TxtFirstName"), Qt::Key_A);
     EXPECT_TRUE(window->isWindowModified());
 
+    window->toolbarAction(CmdNextTab)->trigger(); // the Personal page
+    window->toolbarAction(CmdInsertText)->trigger();
     const QString path = sandbox.path("cv.qds");
     prompter.expectFile(true, "Save QDV Script File", "*.qds|*.qds|*.*|*.*", path);
     window->toolbarAction(CmdSave)->trigger();
     EXPECT_FALSE(window->isWindowModified());
     EXPECT_EQ(window->windowTitle(), "cv.qds[*] - Vitara Zentor");
 
-    window->editor().undo(); // back before the save point
+    window->editor().undo();
     EXPECT_TRUE(window->isWindowModified());
-    window->editor().redo();
+    window->editor().redo(); // back at the save point
     EXPECT_FALSE(window->isWindowModified());
 }
 
