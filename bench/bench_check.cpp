@@ -57,6 +57,19 @@ void BM_CheckStressDocument(benchmark::State& state) {
 }
 BENCHMARK(BM_CheckStressDocument)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// The same with no text shadowed: every page must be drawn to see what lies under its texts.
+void BM_CheckStressDocumentUnshadowed(benchmark::State& state) {
+    Fixture& f = Fix();
+    const auto doc = std::make_unique<Document>(*f.stress.doc);
+    for (TextElement& t : doc->Texts)
+        t.FontShadow = 0;
+    CheckOptions options;
+    options.speller = f.speller.get();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(CheckDocument(*doc, options));
+}
+BENCHMARK(BM_CheckStressDocumentUnshadowed)->Unit(benchmark::kMillisecond)->UseRealTime();
+
 // As the editor's panel runs it: the pictures already decoded for the workspace.
 void BM_CheckStressDocumentWarmPictures(benchmark::State& state) {
     Fixture& f = Fix();

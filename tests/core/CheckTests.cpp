@@ -104,6 +104,14 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
              text(d, 1).FontShadow = -1;
          },
          {}},
+        {"dark blue over a dark picture: its black shadow does not help",
+         [&](Document& d) {
+             text(d, 6).FontColor = int32_t(0xFF000080);
+             text(d, 6).FontShadow = -1;
+             PlaceImage(d, 1, 6, QRect(0, 0, 400, 200),
+                        Picture(box, "dark.png", 400, 200, 0xFF202020));
+         },
+         {{FindingKind::Contrast, 6}}},
         {"grey 3.5:1 at 12 pt",
          [&](Document& d) { text(d, 2).FontColor = int32_t(0xFF888888); },
          {{FindingKind::Contrast, 2}}},

@@ -35,6 +35,22 @@ constexpr int SampleStep = 2;
 // samples (a stray highlight in a photo) does not decide.
 constexpr double WeakShare = 0.1;
 
+// How the text stands out from its own shadow, which outlines every glyph; nothing without
+// one.
+std::optional<double> ShadowContrast(const TextElement& t) {
+    if (t.FontShadow == 0)
+        return std::nullopt;
+    const QRgb colour = QRgb(uint32_t(t.FontColor));
+    const QRgb shadow = QRgb(ShadowColorFor(uint32_t(t.FontColor)));
+    return ContrastRatio(RelativeLuminance(Over(colour, shadow)), RelativeLuminance(shadow));
+}
+
+// A text its shadow makes readable whatever lies under it: its page need not be drawn.
+bool ReadableByShadow(const TextElement& t) {
+    const auto ratio = ShadowContrast(t);
+    return ratio && *ratio >= RequiredContrast(t.FontSize, t.FontStyle);
+}
+
 std::optional<double> TextContrast(const TextElement& t, const TextBoxLayout& layout,
                                    const QImage& backdrop) {
     const QRgb colour = QRgb(uint32_t(t.FontColor));
@@ -57,14 +73,7 @@ std::optional<double> TextContrast(const TextElement& t, const TextBoxLayout& la
         return std::nullopt;
     const auto weak = ratios.begin() + ptrdiff_t(double(ratios.size() - 1) * WeakShare);
     std::nth_element(ratios.begin(), weak, ratios.end());
-    double ratio = *weak;
-    // A shadow outlines the glyphs in its own colour, so they stand out against it too.
-    if (t.FontShadow != 0) {
-        const QRgb shadow = QRgb(ShadowColorFor(uint32_t(t.FontColor)));
-        ratio = std::max(ratio, ContrastRatio(RelativeLuminance(Over(colour, shadow)),
-                                              RelativeLuminance(shadow)));
-    }
-    return ratio;
+    return std::max(*weak, ShadowContrast(t).value_or(0.0));
 }
 
 void CheckFit(const TextElement& t, int slot, const TextBoxLayout& layout,
@@ -91,12 +100,14 @@ void CheckFit(const TextElement& t, int slot, const TextBoxLayout& layout,
 // Laid out once for both: a text that does not fit its box, and one hard to read.
 void CheckTexts(const Document& doc, PictureCache* cache, std::vector<Finding>& out) {
     // What lies under the texts, page by page, drawn on all cores: decoding the pictures is
-    // most of the work.
+    // most of the work, so a page whose texts all stand out from their shadows is not drawn.
     std::array<std::future<QImage>, SlideShowTab> backdrops;
     for (int tab = 1; tab < SlideShowTab; ++tab) {
-        const bool hasText = std::any_of(doc.Texts.begin() + 1, doc.Texts.end(),
-                                         [tab](const TextElement& t) { return t.TabNo == tab; });
-        if (hasText)
+        const bool needed =
+            std::any_of(doc.Texts.begin() + 1, doc.Texts.end(), [tab](const TextElement& t) {
+                return t.TabNo == tab && !ReadableByShadow(t);
+            });
+        if (needed)
             backdrops[size_t(tab)] = std::async(std::launch::async, [&doc, tab, cache] {
                 const ResImages noBadge; // the content pages carry no built-in picture
                 return RenderPageImage(doc, tab, noBadge, cache, false)
@@ -104,16 +115,17 @@ void CheckTexts(const Document& doc, PictureCache* cache, std::vector<Finding>& 
             });
     }
     for (int tab = 1; tab < SlideShowTab; ++tab) {
-        if (!backdrops[size_t(tab)].valid())
-            continue;
-        const QImage backdrop = backdrops[size_t(tab)].get();
+        const QImage backdrop =
+            backdrops[size_t(tab)].valid() ? backdrops[size_t(tab)].get() : QImage();
         for (int slot = 1; slot <= MaxTexts; ++slot) {
             const TextElement& t = doc.Texts[size_t(slot)];
             if (t.TabNo != tab)
                 continue;
             const TextBoxLayout layout = Layout(t);
             CheckFit(t, slot, layout, out);
-            const auto ratio = backdrop.isNull() ? std::nullopt : TextContrast(t, layout, backdrop);
+            if (backdrop.isNull() || ReadableByShadow(t))
+                continue;
+            const auto ratio = TextContrast(t, layout, backdrop);
             const double needed = RequiredContrast(t.FontSize, t.FontStyle);
             if (!ratio || *ratio >= needed)
                 continue;
