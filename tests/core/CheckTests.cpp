@@ -341,3 +341,21 @@ TEST(CheckCli, PrintsFindingsForPeopleOrAsJsonWithTheExitStatus) {
     EXPECT_EQ(RunCli({"check", box.path("none.qds")}, &out, &err), 1);
     EXPECT_TRUE(err.contains("cannot open"));
 }
+
+TEST(Check, TheStatusAfterAnOutputAddsWhatRemains) {
+    const struct {
+        const char* said;
+        size_t remaining;
+        const char* expected;
+    } cases[] = {
+        {"Wrote cv.pdf", 0, "Wrote cv.pdf"},
+        {"Wrote cv.pdf", 3,
+         "Wrote cv.pdf; 3 findings remain: Edit > Check Résumé... (F7) lists them"},
+        {"Ready", 1, "1 finding remains: Edit > Check Résumé... (F7) lists them"},
+        {"", 2, "2 findings remain: Edit > Check Résumé... (F7) lists them"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(StatusAfterOutput(QString::fromUtf8(c.said), c.remaining),
+                  QString::fromUtf8(c.expected))
+            << c.said << " " << c.remaining;
+}

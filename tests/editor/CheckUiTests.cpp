@@ -108,9 +108,11 @@ TEST_F(CheckWindowTest, AWrittenPackageLeavesTheCountInTheStatusBar) {
     const QString path = sandbox.path(QStringLiteral("cv.qdv"));
     prompter.expectFile(true, "Generate QDV File", "*.qdv|*.qdv", path);
     window->toolbarAction(CmdGenerateQdv)->trigger();
-    QApplication::processEvents();
+    // Counted on a worker: the window goes on meanwhile.
+    const auto* panel = window->findChild<QLabel*>(QStringLiteral("StatusPanel1"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel->text().contains(QLatin1String("remain")); }));
     // Six pages are empty and one word is misspelt; said after what was written.
-    const QString status = window->findChild<QLabel*>(QStringLiteral("StatusPanel1"))->text();
+    const QString status = panel->text();
     EXPECT_TRUE(status.startsWith(QLatin1String("Wrote cv.qdv"))) << status.toStdString();
     EXPECT_TRUE(status.endsWith(
         QStringLiteral("; 7 findings remain: Edit > Check Résumé... (F7) lists them")))

@@ -23,6 +23,8 @@ public:
 
     // Null when the language has no dictionary (error() says so).
     const SpellChecker* speller() const { return speller_.get(); }
+    // The same, kept open for a check running on a worker while the language changes.
+    std::shared_ptr<const SpellChecker> sharedSpeller() const { return speller_; }
     QString error() const { return error_; }
     QString language() const { return language_; }
     void setLanguage(const QString& language);
@@ -44,7 +46,7 @@ private:
     const Document& doc_;
     QString language_;
     QString error_;
-    std::unique_ptr<SpellChecker> speller_;
+    std::shared_ptr<SpellChecker> speller_;
     QStringList ignored_;
 };
 
