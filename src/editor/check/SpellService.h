@@ -1,11 +1,13 @@
 #pragma once
 
 #include "check/SpellChecker.h"
+#include "model/Records.h"
 
 #include <QObject>
 #include <QSet>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace zentor {
@@ -42,12 +44,16 @@ signals:
 
 private:
     void open();
+    const QSet<QString>& profileWords() const;
 
     const Document& doc_;
     QString language_;
     QString error_;
     std::shared_ptr<SpellChecker> speller_;
     QStringList ignored_;
+    // The person's own words and the profile they were taken from.
+    mutable QSet<QString> profileWords_;
+    mutable std::optional<ProfileRecord> profileWordsOf_;
 };
 
 } // namespace zentor
