@@ -158,9 +158,7 @@ QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
 }
 
 QRect FrameTarget(QSize frame, QSize size) {
-    const QSize fitted = frame.scaled(size, Qt::KeepAspectRatio);
-    return QRect(QPoint((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2),
-                 fitted);
+    return ToRect(show::FitFrame({frame.width(), frame.height()}, size.width(), size.height()));
 }
 
 QImage PaintShowFrame(const ShowPictures& pictures, const show::ScreenState& state, QSize size,
