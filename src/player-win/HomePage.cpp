@@ -69,10 +69,8 @@ void HomePage::paint(Gdiplus::Graphics& g, int hoverIcon) const {
                   Gdiplus::Rect(half(width_ - 144), half(height_ - 144), 144, 144));
     drawStretched(g, userIcon_.get(), rectOf(layout_.Ring[0]));
 
-    TextStyle line;
-    line.PixelSize = float(layout_.FontPixelSize);
-    line.Shadow = Gdiplus::Color(160, 0, 0, 0);
-    line.ShadowInPlace = false;
+    TextStyle line; // the caption's look, smaller
+    line.PixelSize = layout_.FontPoints * 96.0f / 72.0f;
     line.Middle = true;
     line.Ellipsis = true;
     for (const show::HomeLine& contact : layout_.Lines) {

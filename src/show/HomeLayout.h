@@ -28,7 +28,7 @@ struct HomeLayout {
     IconRectTable Ring{};
     IconRect Block;              // the lines' union (empty when there are none)
     std::vector<HomeLine> Lines; // top to bottom
-    int FontPixelSize = 13;      // "Arial", white with a dark shadow like the caption
+    int FontPoints = 10;         // "Arial" at 96 dpi, white with a shadow like the caption
 };
 
 inline constexpr int HomeLineHeight = 17;
