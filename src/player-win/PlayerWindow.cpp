@@ -14,6 +14,7 @@ namespace winplayer {
 namespace {
 
 constexpr UINT_PTR ShowTimer = 1;
+constexpr UINT StartMusic = WM_APP + 1;
 constexpr int FadeStepMs = 15;
 
 bool keyOf(WPARAM key, show::ShowKey& out) {
@@ -88,7 +89,6 @@ int PlayerWindow::run(HINSTANCE instance, int show) {
                               nullptr, instance, this);
     if (!window_)
         return 1;
-    music_ = std::make_unique<Music>(package_, show::MusicSettingsOf(package_.Info), window_);
     ShowWindow(window_, show == SW_HIDE ? SW_SHOW : show);
     SetForegroundWindow(window_);
     schedule();
@@ -153,6 +153,16 @@ LRESULT PlayerWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return 1;
     case WM_PAINT:
         paint();
+        // The music starts once the first frame is on screen: opening it never delays the
+        // picture.
+        if (!musicStarted_) {
+            musicStarted_ = true;
+            PostMessageW(window_, StartMusic, 0, 0);
+        }
+        return 0;
+    case StartMusic:
+        music_ = std::make_unique<Music>(package_, show::MusicSettingsOf(package_.Info), window_);
+        music_->setMuted(model_.muted());
         return 0;
     case WM_DESTROY:
         KillTimer(window_, ShowTimer);

@@ -31,6 +31,7 @@ private:
     Scene& scene_;
     zentor::show::ShowModel model_;
     std::unique_ptr<Music> music_;
+    bool musicStarted_ = false;
     std::unique_ptr<Gdiplus::Bitmap> frame_;
     HWND window_ = nullptr;
     bool hand_ = false; // the pointer is over something that takes a click
