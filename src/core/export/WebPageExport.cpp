@@ -158,7 +158,8 @@ QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, DataUri
         {"name", PersonName(doc)},
         {"picture", uris.add("image/jpeg", EncodeJpeg(home, PageQuality))},
         {"texts", texts},
-        {"contacts", QJsonObject{{"px", pictures.contacts().FontPixelSize}, {"lines", lines}}}};
+        {"contacts",
+         QJsonObject{{"px", pictures.contacts().FontPoints * 96.0 / 72.0}, {"lines", lines}}}};
 }
 
 } // namespace

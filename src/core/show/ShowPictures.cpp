@@ -1,6 +1,5 @@
 #include "show/ShowPictures.h"
 
-#include "model/CodePage.h"
 #include "model/DefaultDocument.h"
 #include "render/HomePage.h"
 #include "render/PageCompositor.h"
@@ -8,8 +7,6 @@
 #include "render/PictureLoader.h"
 #include "show/ShowFrame.h"
 
-#include <QFont>
-#include <QFontMetrics>
 #include <QPainter>
 
 #include <algorithm>
@@ -17,30 +14,8 @@
 namespace zentor {
 namespace {
 
-QString Decoded(const std::string& bytes) {
-    return CodePage::active().decode(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
-}
-
 QRect ToRect(const show::IconRect& r) {
     return QRect(r.Left, r.Top, r.Right - r.Left, r.Bottom - r.Top);
-}
-
-// The contact lines: white over a dark shadow like the caption, links underlined, each
-// cut with an ellipsis where it does not fit its line.
-void PaintContacts(QPainter& p, const show::HomeLayout& layout) {
-    QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(layout.FontPixelSize);
-    for (const show::HomeLine& line : layout.Lines) {
-        font.setUnderline(!line.Link.empty());
-        p.setFont(font);
-        const QRect box = ToRect(line.Rect);
-        const QString text =
-            QFontMetrics(font).elidedText(Decoded(line.Text), Qt::ElideRight, box.width());
-        p.setPen(QColor(0, 0, 0, 160));
-        p.drawText(box.translated(1, 1), Qt::AlignCenter, text);
-        p.setPen(Qt::white);
-        p.drawText(box, Qt::AlignCenter, text);
-    }
 }
 
 quint64 CacheKey(int picture, int hover, QSize size) {
@@ -104,7 +79,7 @@ QImage ShowPictures::paintHome(int hoverIcon) const {
     canvas.fill(0xFFFFFFFFu);
     QPainter p(&canvas);
     PaintHomePage(p, frame_, pics, HomeCaption(tabNames_, person_, hoverIcon), res_);
-    PaintContacts(p, contacts_);
+    PaintHomeContacts(p, contacts_);
     p.end();
     return canvas.convertToFormat(QImage::Format_RGB32);
 }
@@ -158,9 +133,7 @@ QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
 }
 
 QRect FrameTarget(QSize frame, QSize size) {
-    const QSize fitted = frame.scaled(size, Qt::KeepAspectRatio);
-    return QRect(QPoint((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2),
-                 fitted);
+    return ToRect(show::FitFrame({frame.width(), frame.height()}, size.width(), size.height()));
 }
 
 QImage PaintShowFrame(const ShowPictures& pictures, const show::ScreenState& state, QSize size,
