@@ -24,44 +24,88 @@ namespace {
 constexpr int PageQuality = 90;
 
 // Pictures and music go into the page as data URIs. Megabytes of them would cost more to
-// pass through the JSON writer than to draw the pages, so the JSON carries a stand-in for
-// each, put in place at the end.
+// pass through the JSON writer, and to copy from one buffer into the next, than to draw the
+// pages: the JSON carries a stand-in for each, and the page is written once, each URI
+// encoded straight into its place.
 class DataUris {
 public:
     QString add(const char* mime, const QByteArray& bytes) {
-        uris_.push_back("data:" + QByteArray(mime) + ";base64," + bytes.toBase64());
+        uris_.push_back({mime, bytes});
         return Mark + QString::number(uris_.size() - 1);
     }
-    // `json` with every stand-in replaced by its URI.
-    QByteArray fill(const QByteArray& json) const {
-        static const QByteArray written = "\"\\u0001uri"; // how the JSON writer escapes Mark
-        qsizetype size = json.size();
-        for (const QByteArray& u : uris_)
-            size += u.size();
+
+    // `page` with `json` in place of `mark`, every stand-in in it replaced by its URI.
+    QByteArray write(const QByteArray& page, QByteArrayView mark, const QByteArray& json) const {
+        const qsizetype at = page.indexOf(mark);
+        if (at < 0)
+            return page;
+        qsizetype size = page.size() + json.size();
+        for (const Uri& u : uris_)
+            size +=
+                qsizetype(sizeof("data:;base64,")) + qstrlen(u.mime) + Base64Size(u.bytes.size());
         QByteArray out;
         out.reserve(size);
+        out += QByteArrayView(page).first(at);
         qsizetype from = 0;
-        for (qsizetype at; (at = json.indexOf(written, from)) >= 0;) {
-            qsizetype end = at + written.size();
+        for (qsizetype found; (found = json.indexOf(Written, from)) >= 0;) {
+            qsizetype end = found + Written.size();
             size_t index = 0;
             while (end < json.size() && json[end] >= '0' && json[end] <= '9')
                 index = index * 10 + size_t(json[end++] - '0');
             if (end >= json.size() || json[end] != '"' || index >= uris_.size()) {
-                out += json.mid(from, end - from);
+                out += QByteArrayView(json).sliced(from, end - from);
                 from = end;
                 continue;
             }
-            out += json.mid(from, at - from);
-            out += '"' + uris_[index] + '"';
+            out += QByteArrayView(json).sliced(from, found - from);
+            out += "\"data:";
+            out += uris_[index].mime;
+            out += ";base64,";
+            AppendBase64(out, uris_[index].bytes);
+            out += '"';
             from = end + 1;
         }
-        out += json.mid(from);
+        out += QByteArrayView(json).sliced(from);
+        out += QByteArrayView(page).sliced(at + mark.size());
         return out;
     }
 
 private:
+    struct Uri {
+        const char* mime;
+        QByteArray bytes;
+    };
+    static constexpr QByteArrayView Written = "\"\\u0001uri"; // how the JSON writer escapes Mark
     static inline const QString Mark = QStringLiteral("\u0001uri");
-    std::vector<QByteArray> uris_;
+
+    static qsizetype Base64Size(qsizetype n) { return (n + 2) / 3 * 4; }
+
+    // Appends within the room already reserved: no buffer of its own to copy from.
+    static void AppendBase64(QByteArray& out, const QByteArray& in) {
+        static constexpr char Digits[] =
+            "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+        const qsizetype start = out.size();
+        out.resize(start + Base64Size(in.size()));
+        char* o = out.data() + start;
+        const auto* b = reinterpret_cast<const uchar*>(in.constData());
+        const qsizetype whole = in.size() / 3 * 3;
+        for (qsizetype i = 0; i < whole; i += 3, o += 4) {
+            const uint v = uint(b[i]) << 16 | uint(b[i + 1]) << 8 | b[i + 2];
+            o[0] = Digits[v >> 18];
+            o[1] = Digits[(v >> 12) & 63];
+            o[2] = Digits[(v >> 6) & 63];
+            o[3] = Digits[v & 63];
+        }
+        if (const qsizetype rest = in.size() - whole) {
+            const uint v = uint(b[whole]) << 16 | (rest == 2 ? uint(b[whole + 1]) << 8 : 0u);
+            o[0] = Digits[v >> 18];
+            o[1] = Digits[(v >> 12) & 63];
+            o[2] = rest == 2 ? Digits[(v >> 6) & 63] : '=';
+            o[3] = '=';
+        }
+    }
+
+    std::vector<Uri> uris_;
 };
 
 QJsonObject Box(int left, int top, int width, int height) {
@@ -199,8 +243,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     data.replace("<", "\\u003c");
     QByteArray page = WebPageTemplate();
     page.replace("@TITLE@", PersonName(doc).toHtmlEscaped().toUtf8());
-    page.replace("@DATA@", uris.fill(data));
-    return page;
+    return uris.write(page, "@DATA@", data);
 }
 
 } // namespace zentor
