@@ -27,6 +27,18 @@ namespace {
 struct GlyphFont {
     QRawFont laidOut; // the layout's font, to tell its runs from fallback fonts' runs
     QRawFont drawn;
+    // Outlines of `drawn`'s glyphs as a PDF's shadows ask for them: a page repeats a few
+    // dozen glyphs thousands of times, and each outline costs a pass of the font's hinter.
+    mutable QHash<quint32, QPainterPath> outlines;
+
+    QPainterPath outline(const QRawFont& font, quint32 glyph) const {
+        if (font != drawn)
+            return font.pathForGlyph(glyph);
+        auto it = outlines.constFind(glyph);
+        if (it == outlines.constEnd())
+            it = outlines.insert(glyph, drawn.pathForGlyph(glyph));
+        return *it;
+    }
 };
 thread_local QHash<QString, GlyphFont> glyphFonts;
 
@@ -230,7 +242,7 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
                     const QList<quint32> glyphs = run.glyphIndexes();
                     const QList<QPointF> at = run.positions();
                     for (qsizetype i = 0; i < glyphs.size() && i < at.size(); ++i)
-                        outlinePath.addPath(font.pathForGlyph(glyphs[i]).translated(at[i]));
+                        outlinePath.addPath(fonts.outline(font, glyphs[i]).translated(at[i]));
                 }
             }
             g.fillPath(outlinePath.translated(ox, oy), g.pen().color());
