@@ -217,7 +217,8 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     QString error;
     if (!DocumentPackage(doc, ctx, res, package, warnings, error))
         return QByteArray();
-    const ShowPictures pictures(package, res, DefaultHomeBackground(ctx));
+    const ShowPictures pictures(package, res, DefaultHomeBackground(ctx),
+                                ShowPictures::Pages::OnlyJudged);
 
     QJsonObject show = WebShowNumbers(doc, pictures.showOrder());
     show.insert("title", PersonName(doc));

@@ -57,10 +57,16 @@ QSize SaneFrame(const show::ShowHeader& h) {
 
 // A page that holds nothing comes out one flat colour. It is judged at a quarter of the
 // frame, as every player judges it, which also smooths away the JPEG's noise.
+QSize Quarter(QSize frame) {
+    return (frame / 4).expandedTo(QSize(1, 1));
+}
+
 bool IsEmptyPage(const QImage& page, QSize frame) {
-    const QImage small = page.scaled((frame / 4).expandedTo(QSize(1, 1)), Qt::IgnoreAspectRatio,
-                                     Qt::SmoothTransformation)
-                             .convertToFormat(QImage::Format_RGB32);
+    const QImage small =
+        (page.size() == Quarter(frame)
+             ? page
+             : page.scaled(Quarter(frame), Qt::IgnoreAspectRatio, Qt::SmoothTransformation))
+            .convertToFormat(QImage::Format_RGB32);
     return show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()), small.width(),
                                small.height(), int(small.bytesPerLine() / 4));
 }
@@ -68,7 +74,7 @@ bool IsEmptyPage(const QImage& page, QSize frame) {
 } // namespace
 
 ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
-                           const QByteArray& defaultBackground)
+                           const QByteArray& defaultBackground, Pages pages)
     : res_(res), frame_(SaneFrame(package.Info.Header)), defaultBackground_(defaultBackground) {
     const uint32_t c = uint32_t(package.Header.BackColor); // 0x00BBGGRR
     backColor_ = qRgb(int(c & 0xFF), int((c >> 8) & 0xFF), int((c >> 16) & 0xFF));
@@ -91,7 +97,8 @@ ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
         const int entry = show::PageOrder[i];
         const std::optional<QImage> page = decoding[i].get();
         empty[size_t(entry)] = page && IsEmptyPage(*page, frame_);
-        cache_.insert(CacheKey(entry, 0, frame_), page ? *page : backPage());
+        if (pages == Pages::Shown)
+            cache_.insert(CacheKey(entry, 0, frame_), page ? *page : backPage());
     }
     order_ = show::ShowOrder(empty);
 }
@@ -123,12 +130,14 @@ QImage ShowPictures::paintHome(int hoverIcon) const {
     return canvas.convertToFormat(QImage::Format_RGB32);
 }
 
-std::optional<QImage> ShowPictures::loadPage(int entry) const {
-    QImage img = LoadPictureData(blobs_[size_t(entry)], frame_);
+std::optional<QImage> ShowPictures::loadPage(int entry, QSize size) const {
+    if (size.isEmpty())
+        size = frame_;
+    QImage img = LoadPictureData(blobs_[size_t(entry)], size);
     if (img.isNull())
         return std::nullopt;
-    if (img.size() != frame_)
-        img = img.scaled(frame_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (img.size() != size)
+        img = img.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return img.convertToFormat(QImage::Format_RGB32);
 }
 

@@ -25,10 +25,15 @@ namespace zentor {
 // once, and both scaled to the sizes asked for. Safe to share between threads.
 class ShowPictures {
 public:
+    // What the pages are decoded for: to be shown (each decoded once, at frame size, and
+    // kept), or only to be judged empty or not (decoded at the quarter the judging looks at;
+    // the web page shows the package's own bytes).
+    enum class Pages { Shown, OnlyJudged };
+
     // `defaultBackground` is the encoded picture the home page shows when the package
     // carries no background of its own (or one that cannot be decoded).
     ShowPictures(const PackageContents& package, const ResImages& res,
-                 const QByteArray& defaultBackground);
+                 const QByteArray& defaultBackground, Pages pages = Pages::Shown);
 
     // The package's frame (800 x 600 when its header's is not a sane one).
     QSize frame() const { return frame_; }
@@ -48,8 +53,8 @@ private:
     QImage paintHome(int hoverIcon) const;
     // The background and icons the home page is painted from, decoded on first use.
     const HomePictures& homePictures() const;
-    // A page entry decoded at frame size; nothing when it cannot be decoded.
-    std::optional<QImage> loadPage(int entry) const;
+    // A page entry decoded at frame size (or `size`); nothing when it cannot be decoded.
+    std::optional<QImage> loadPage(int entry, QSize size = QSize()) const;
     // What stands for a page that cannot be decoded: the back colour.
     QImage backPage() const;
 
