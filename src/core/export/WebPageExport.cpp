@@ -19,6 +19,31 @@
 #include <QJsonDocument>
 
 namespace zentor {
+
+void AppendBase64(QByteArray& out, QByteArrayView bytes) {
+    static constexpr char Digits[] =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    const qsizetype start = out.size();
+    out.resize(start + (bytes.size() + 2) / 3 * 4);
+    char* o = out.data() + start;
+    const auto* b = reinterpret_cast<const uchar*>(bytes.data());
+    const qsizetype whole = bytes.size() / 3 * 3;
+    for (qsizetype i = 0; i < whole; i += 3, o += 4) {
+        const uint v = uint(b[i]) << 16 | uint(b[i + 1]) << 8 | b[i + 2];
+        o[0] = Digits[v >> 18];
+        o[1] = Digits[(v >> 12) & 63];
+        o[2] = Digits[(v >> 6) & 63];
+        o[3] = Digits[v & 63];
+    }
+    if (const qsizetype rest = bytes.size() - whole) {
+        const uint v = uint(b[whole]) << 16 | (rest == 2 ? uint(b[whole + 1]) << 8 : 0u);
+        o[0] = Digits[v >> 18];
+        o[1] = Digits[(v >> 12) & 63];
+        o[2] = rest == 2 ? Digits[(v >> 6) & 63] : '=';
+        o[3] = '=';
+    }
+}
+
 namespace {
 
 constexpr int PageQuality = 90;
@@ -42,7 +67,7 @@ public:
         qsizetype size = page.size() + json.size();
         for (const Uri& u : uris_)
             size +=
-                qsizetype(sizeof("data:;base64,")) + qstrlen(u.mime) + Base64Size(u.bytes.size());
+                qsizetype(sizeof("data:;base64,")) + qstrlen(u.mime) + (u.bytes.size() + 2) / 3 * 4;
         QByteArray out;
         out.reserve(size);
         out += QByteArrayView(page).first(at);
@@ -77,33 +102,6 @@ private:
     };
     static constexpr QByteArrayView Written = "\"\\u0001uri"; // how the JSON writer escapes Mark
     static inline const QString Mark = QStringLiteral("\u0001uri");
-
-    static qsizetype Base64Size(qsizetype n) { return (n + 2) / 3 * 4; }
-
-    // Appends within the room already reserved: no buffer of its own to copy from.
-    static void AppendBase64(QByteArray& out, const QByteArray& in) {
-        static constexpr char Digits[] =
-            "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-        const qsizetype start = out.size();
-        out.resize(start + Base64Size(in.size()));
-        char* o = out.data() + start;
-        const auto* b = reinterpret_cast<const uchar*>(in.constData());
-        const qsizetype whole = in.size() / 3 * 3;
-        for (qsizetype i = 0; i < whole; i += 3, o += 4) {
-            const uint v = uint(b[i]) << 16 | uint(b[i + 1]) << 8 | b[i + 2];
-            o[0] = Digits[v >> 18];
-            o[1] = Digits[(v >> 12) & 63];
-            o[2] = Digits[(v >> 6) & 63];
-            o[3] = Digits[v & 63];
-        }
-        if (const qsizetype rest = in.size() - whole) {
-            const uint v = uint(b[whole]) << 16 | (rest == 2 ? uint(b[whole + 1]) << 8 : 0u);
-            o[0] = Digits[v >> 18];
-            o[1] = Digits[(v >> 12) & 63];
-            o[2] = rest == 2 ? Digits[(v >> 6) & 63] : '=';
-            o[3] = '=';
-        }
-    }
 
     std::vector<Uri> uris_;
 };
