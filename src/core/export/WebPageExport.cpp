@@ -18,6 +18,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <future>
+
 namespace zentor {
 
 void AppendBase64(QByteArray& out, QByteArrayView bytes) {
@@ -173,7 +175,8 @@ QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg, Dat
                        {"texts", texts}};
 }
 
-QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, DataUris& uris) {
+QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, const QByteArray& jpeg,
+                      DataUris& uris) {
     const QSize frame = pictures.frame();
     // The contacts are painted on the home picture as the players paint them; over them
     // lie their words as text and their links, where the players take clicks.
@@ -195,10 +198,9 @@ QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, DataUri
                   QLatin1String(HomeCaptionFont), HomeCaptionPoints, 0, 1, 0);
     if (!caption.isEmpty())
         texts.append(caption);
-    const QImage home = pictures.picture(show::HomePicture);
     return QJsonObject{
         {"name", PersonName(doc)},
-        {"picture", uris.add("image/jpeg", EncodeJpeg(home, PageQuality))},
+        {"picture", uris.add("image/jpeg", jpeg)},
         {"texts", texts},
         {"contacts", QJsonObject{{"px", pictures.contacts().FontPixelSize}, {"lines", lines}}}};
 }
@@ -218,6 +220,11 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     const ShowPictures pictures(package, res, DefaultHomeBackground(ctx),
                                 ShowPictures::Pages::OnlyJudged);
 
+    // The home picture is painted and compressed while the pages' layers are laid out.
+    std::future<QByteArray> home = std::async(std::launch::async, [&pictures] {
+        return EncodeJpeg(pictures.picture(show::HomePicture), PageQuality);
+    });
+
     QJsonObject show = WebShowNumbers(doc, pictures.showOrder());
     show.insert("title", PersonName(doc));
     DataUris uris;
@@ -230,7 +237,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     }
     if (!GoOn(progress, SlideShowTab + 1, SlideShowTab + 1))
         return QByteArray();
-    show.insert("home", HomeLayer(doc, pictures, uris));
+    show.insert("home", HomeLayer(doc, pictures, home.get(), uris));
     show.insert("pages", pages);
     const QByteArray music = package.blob(show::Package::MusicEntry);
     if (!music.isEmpty())
