@@ -138,7 +138,9 @@ TEST(EditObjects, InsertUsesTheLowestFreeSlotOrTheTemplate) {
     EXPECT_EQ(d->Images[2].TabNo, 3);
     EXPECT_EQ(d->Images[2].Width, d->Images[0].Width);
     d->Images[1] = d->Images[0]; // deleted: its slot comes back first
+    d->Images[3].TabNo = -1;     // neither free nor in use: skipped
     EXPECT_EQ(InsertObject(*d, KindImage, 4), 1);
+    EXPECT_EQ(InsertObject(*d, KindImage, 4), 4);
     const int t = InsertObject(*d, KindText, 7);
     EXPECT_EQ(d->Texts[t].Name.text(), "text 1");
     EXPECT_EQ(d->Texts[t].Text, d->Texts[0].Text);
@@ -147,6 +149,12 @@ TEST(EditObjects, InsertUsesTheLowestFreeSlotOrTheTemplate) {
     EXPECT_EQ(InsertObject(*d, KindImage, 5), 0);
     EXPECT_EQ(d->Images[0].TabNo, 5);
     EXPECT_EQ(d->Images[0].Name.text(), "image 0");
+    // The last slot of each table is found when it is the only free one.
+    d->Images[MaxImages].TabNo = 0;
+    EXPECT_EQ(InsertObject(*d, KindImage, 2), MaxImages);
+    for (int s = 1; s < MaxTexts; ++s)
+        d->Texts[s].TabNo = 1;
+    EXPECT_EQ(InsertObject(*d, KindText, 2), MaxTexts);
 }
 
 struct DeleteCase {

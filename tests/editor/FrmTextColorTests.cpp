@@ -132,16 +132,6 @@ TEST(FrmTextColor, PreviewBackgroundAndInk) {
     }
 }
 
-TEST(FrmTextColor, UnknownFamilyFallsBackToArial) {
-    TextDoc d;
-    d.t.FontName = "  No Such Family Anywhere ";
-    FrmTextColor dlg(*d.doc, 1);
-    EXPECT_EQ(Find<QComboBox>(dlg, "CmbFont")->currentText(), "Arial");
-    EXPECT_EQ(dlg.choice().fontName, "Arial");
-    Find<QPushButton>(dlg, "CmdColor0")->click();
-    EXPECT_EQ(QByteArray(d.t.FontName.data(), 31), QByteArray("Arial") + QByteArray(26, ' '));
-}
-
 TEST(FrmTextColor, ChangesGoInOnlyOnOk) {
     TextDoc d;
     const QByteArray before = EncodeText(d.t);
