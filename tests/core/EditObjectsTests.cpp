@@ -87,6 +87,8 @@ TEST(EditObjects, SelectByMousePrefersTextsThenHigherSlots) {
     }
     EXPECT_EQ(SelectByMouse(*d, l.map, 0, 155, 155), -1);
     EXPECT_EQ(SelectByMouse(*d, l.map, 8, 155, 155), -1);
+    EXPECT_EQ(SelectByMouse(*d, BuildObjectList(*d, 7).map, 7, 155, 155),
+              0); // the last content page
 }
 
 TEST(EditObjects, ZOrderMovesOnlyThePagesRecords) {

@@ -75,6 +75,9 @@ TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
     // A free slot (TabNo 0) with a file is never drawn.
     PlaceImage(*doc, 7, 4, red, QRect(600, 0, 100, 100));
     doc->Images[7].TabNo = 0;
+    // The last slot of each table is drawn like any other.
+    PlaceImage(*doc, MaxImages, 4, green, QRect(700, 500, 50, 50));
+    PlaceText(*doc, MaxTexts, 4, QStringLiteral("XX"), QRect(500, 20, 90, 60), int(0xFF0000FFu));
 
     const QImage page = RenderPageImage(*doc, 4, res);
     EXPECT_EQ(page.pixel(150, 150), qRgb(255, 0, 0));
@@ -83,6 +86,8 @@ TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
     EXPECT_GT(test::CountPixels(page, qRgb(0, 0, 255), QRect(210, 210, 180, 80)), 200);
     EXPECT_EQ(page.pixel(550, 450), White);
     EXPECT_EQ(page.pixel(650, 50), White);
+    EXPECT_EQ(page.pixel(725, 525), qRgb(0, 255, 0));
+    EXPECT_GT(test::CountPixels(page, qRgb(0, 0, 255), QRect(500, 20, 90, 60)), 100);
     // Tab 6 has its own picture, and not tab 4's.
     const QImage other = RenderPageImage(*doc, 6, res);
     EXPECT_EQ(other.pixel(550, 450), qRgb(255, 0, 0));
