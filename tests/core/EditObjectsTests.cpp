@@ -207,6 +207,26 @@ TEST(EditObjects, DelObjectAsksAndOnlyYesChanges) {
                 EXPECT_FALSE(c.changed(*before, *d)) << c.title;
         }
     }
+    // The last slot of each table is deleted; a slot or page past the tables asks nothing.
+    const struct {
+        int kind, slot, tab;
+        const char* title; // nullptr: refused without a question
+    } edges[] = {
+        {KindImage, MaxImages, 1, "Delete Image"}, {KindText, MaxTexts, 1, "Delete Text"},
+        {KindImage, MaxImages + 1, 1, nullptr},    {KindImage, -1, 1, nullptr},
+        {KindText, MaxTexts + 1, 1, nullptr},      {KindText, -1, 1, nullptr},
+        {KindTab, 0, MaxTab + 1, nullptr},         {KindTab, 0, -1, nullptr},
+    };
+    for (const auto& e : edges) {
+        auto d = box.newDocument();
+        d->Images[MaxImages].Name = d->Texts[MaxTexts].Name = "last";
+        ScriptedPrompter p;
+        if (e.title)
+            p.expectAsk(e.title, "Are you sure to delete last?", Answer::Yes);
+        EXPECT_EQ(DelObject(*d, e.kind, e.slot, e.tab, p, box.ctx), e.title != nullptr)
+            << e.kind << " " << e.slot << " " << e.tab;
+        EXPECT_PROMPTS_DONE(p);
+    }
 }
 
 } // namespace
