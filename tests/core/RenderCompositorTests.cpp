@@ -5,6 +5,7 @@
 #include "render/ResImages.h"
 
 #include <QImage>
+#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -135,9 +136,21 @@ TEST_F(RenderCompositor, OutputsAndWriteBack) {
     EXPECT_EQ(QImage::fromData(jpeg).size(), QSize(800, 600));
     EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(10), QStringLiteral("   pic.png"));
 
-    ASSERT_TRUE(RenderPage(*doc, 8, res, box.ctx));
-    EXPECT_EQ(QImage::fromData(test::ReadAll(box.ctx.TempImagePath)).size(), QSize(800, 600));
-    EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(8), QStringLiteral("pic.png "));
+    // Writing the page trims the path of the tab picture it shows: page 8 shows page 1's.
+    for (const int page : {8, 1}) {
+        doc->Tabs[1].Picture.FileName = QStringLiteral("   pic.png");
+        ASSERT_TRUE(RenderPage(*doc, page, res, box.ctx));
+        EXPECT_EQ(QImage::fromData(test::ReadAll(box.ctx.TempImagePath)).size(), QSize(800, 600));
+        EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(8), QStringLiteral("pic.png ")) << page;
+    }
+    // Painting onto another surface: a page outside 1..8 leaves it as it was.
+    for (const int page : {0, SlideShowTab + 1}) {
+        QImage img = test::Solid(800, 600, qRgb(1, 2, 3));
+        QPainter p(&img);
+        PaintPage(p, *doc, page, res);
+        p.end();
+        EXPECT_EQ(img, test::Solid(800, 600, qRgb(1, 2, 3))) << page;
+    }
 
     // Pages outside 1..8 and frames that cannot be drawn give nothing.
     EXPECT_TRUE(RenderPageImage(*doc, 0, res).isNull());
