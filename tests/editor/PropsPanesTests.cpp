@@ -148,7 +148,7 @@ TEST_F(PropsPanes, TabNameRenamesTheStripTab) {
     QTest::keyClick(name, Qt::Key_Enter);
     EXPECT_EQ(QByteArray(doc->Tabs[3].Name.data(), 32),
               QByteArray("Career History Across Three Cont"));
-    EXPECT_EQ(view.strip.value(GetTabIndex(3)), "Career History Across Three Continents");
+    EXPECT_EQ(view.captions[GetTabIndex(3)], "Career History Across Three Continents");
 }
 
 TEST_F(PropsPanes, WordsCommitOnlyOnLeaving) {
@@ -344,7 +344,7 @@ TEST(PropsPanesOwner, AMainWindowParentIsTheView) {
     auto* name = Find<CommitLineEdit>(host.pane(0), "TxtTabName");
     name->setText("Languages");
     emit name->committed();
-    EXPECT_EQ(window.strip.value(GetTabIndex(6)), "Languages");
+    EXPECT_EQ(window.captions[GetTabIndex(6)], "Languages");
     EXPECT_EQ(doc->Tabs[6].Name.text(), "Languages");
 }
 
