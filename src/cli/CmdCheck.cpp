@@ -37,7 +37,7 @@ int runCheck(const Args& args, const ProcessContext& ctx) {
         for (const Finding& f : findings)
             text += FindingLine(*doc, f) + QLatin1Char('\n');
         if (findings.empty())
-            text = QStringLiteral("Nothing to fix.\n");
+            text = NothingToFix() + QLatin1Char('\n');
         const QByteArray bytes = text.toUtf8();
         std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
     }

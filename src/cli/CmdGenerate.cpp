@@ -1,12 +1,11 @@
 #include "cli/Cli.h"
 
+#include "check/CheckDocument.h"
 #include "edit/Prompter.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
-#include "io/FileUtil.h"
 #include "io/ScriptFile.h"
 #include "model/DefaultDocument.h"
-#include "render/PictureLoader.h"
 #include "render/ResImages.h"
 
 #include "PlayerStub.h"
@@ -40,6 +39,44 @@ public:
     int warnings = 0;
 };
 
+// Says which pictures cannot be read, as Check Résumé finds them, and how many. Resampled
+// ones never fail to read back (an unreadable source turns black) and a missing page picture
+// leaves its place empty, silently in the package; the generator itself says which icons and
+// music it could not read.
+int WarnUnreadablePictures(const Document& doc) {
+    int warnings = 0;
+    for (const UnreadableMedium& m : UnreadableMedia(doc)) {
+        const int i = m.field.index;
+        QString what;
+        int tab = 0;
+        switch (m.field.kind) {
+        case MediaFieldKind::UserIcon:
+        case MediaFieldKind::BackPicture:
+            Warn(QStringLiteral("cannot read the %1 %2; the package gets a black picture")
+                     .arg(m.field.kind == MediaFieldKind::UserIcon
+                              ? QStringLiteral("user icon")
+                              : QStringLiteral("background picture"),
+                          m.path));
+            ++warnings;
+            continue;
+        case MediaFieldKind::TabPicture:
+            tab = i;
+            what = QStringLiteral("tab picture");
+            break;
+        case MediaFieldKind::ObjectPicture:
+            tab = doc.Images[size_t(i)].TabNo;
+            what = QStringLiteral("picture of ") + doc.Images[size_t(i)].Name.text().trimmed();
+            break;
+        default:
+            continue;
+        }
+        Warn(QStringLiteral("cannot read the %1 on page %2: %3; the page is drawn without it")
+                 .arg(what, doc.Tabs[size_t(tab)].Name.text().trimmed(), m.path));
+        ++warnings;
+    }
+    return warnings;
+}
+
 int runGenerate(const Args& args, const ProcessContext& ctx) {
     if (args.positional.size() != 2)
         return Fail(QStringLiteral("usage: zentor-cli generate PROJECT.qds OUT [--selfrun] "
@@ -72,45 +109,7 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
                  .arg(project));
 
     StderrPrompter prompter;
-    // Resampled pictures never fail to read back (an unreadable source turns black), so
-    // say here which of them could not be read.
-    const struct {
-        QString field;
-        const char* what;
-    } pictures[] = {{doc->Profile.UserIcon.trimNull(), "user icon"},
-                    {doc->Header.BackPicture.trimNull(), "background picture"}};
-    for (const auto& p : pictures) {
-        if (p.field.isEmpty())
-            continue;
-        const QString path = ResolvePath(doc->ScriptPath, p.field);
-        if (ReadPictureSize(path).isEmpty()) {
-            Warn(QStringLiteral("cannot read the %1 %2; the package gets a black picture")
-                     .arg(QLatin1String(p.what), path));
-            ++prompter.warnings;
-        }
-    }
-
-    // Pictures drawn on the pages: a missing one leaves its place empty, silently in the
-    // package, so it is said here.
-    for (int tab = 1; tab <= 7; ++tab) {
-        const QString name = doc->Tabs[size_t(tab)].Name.text().trimmed();
-        auto check = [&](const QString& field, const QString& what) {
-            if (field.isEmpty())
-                return;
-            const QString path = ResolvePath(doc->ScriptPath, field);
-            if (ReadPictureSize(path).isEmpty()) {
-                Warn(QStringLiteral("cannot read the %1 on page %2: %3; the page is drawn without "
-                                    "it")
-                         .arg(what, name, path));
-                ++prompter.warnings;
-            }
-        };
-        check(doc->Tabs[size_t(tab)].Picture.FileName.trimNull(), QStringLiteral("tab picture"));
-        for (const ImageElement& img : doc->Images)
-            if (&img != &doc->Images[0] && img.TabNo == tab)
-                check(img.FileName.trimNull(),
-                      QStringLiteral("picture of ") + img.Name.text().trimmed());
-    }
+    prompter.warnings += WarnUnreadablePictures(*doc);
 
     const ResImages res = ResImages::load();
     RenderedPictures rendered(ctx, res);

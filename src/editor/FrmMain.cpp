@@ -153,6 +153,8 @@ FrmMain::~FrmMain() {
         child->disconnect(this);
     delete panes_;
     panes_ = nullptr;
+    // A check still counting reads pictures_, which goes before the children do.
+    delete findChild<CheckUi*>();
 }
 
 void FrmMain::buildMenus() {

@@ -31,8 +31,8 @@ Gdiplus::Rect rectOf(const show::IconRect& r) {
 } // namespace
 
 HomePage::HomePage(const show::PackageFile& package, int width, int height)
-    : width_(width), height_(height), ring_(show::RingRects(width, height)),
-      contacts_(show::LayoutHome(package.Info.Profile, width, height)) {
+    : width_(width), height_(height),
+      layout_(show::LayoutHome(package.Info.Profile, width, height)) {
     background_ = packageOr(package, show::Package::BackPictureEntry, BuiltInBackground);
     border_ = builtInPicture(BuiltInBorder);
     userIcon_ = packageOr(package, show::Package::UserIconEntry, BuiltInLogo);
@@ -58,7 +58,7 @@ std::wstring HomePage::captionFor(int hoverIcon) const {
 void HomePage::paint(Gdiplus::Graphics& g, int hoverIcon) const {
     drawStretched(g, background_.get(), Gdiplus::Rect(0, 0, width_, height_));
     for (int tab = 1; tab <= 8; ++tab)
-        drawStretched(g, icons_[size_t(tab)].get(), rectOf(ring_[size_t(tab)]));
+        drawStretched(g, icons_[size_t(tab)].get(), rectOf(layout_.Ring[size_t(tab)]));
 
     TextStyle caption; // "Arial" 12 pt at 96 dpi
     drawShadowedText(g, captionFor(hoverIcon),
@@ -67,15 +67,13 @@ void HomePage::paint(Gdiplus::Graphics& g, int hoverIcon) const {
 
     drawStretched(g, border_.get(),
                   Gdiplus::Rect(half(width_ - 144), half(height_ - 144), 144, 144));
-    drawStretched(g, userIcon_.get(), rectOf(ring_[0]));
+    drawStretched(g, userIcon_.get(), rectOf(layout_.Ring[0]));
 
-    TextStyle line;
-    line.PixelSize = float(contacts_.FontPixelSize);
-    line.Shadow = Gdiplus::Color(160, 0, 0, 0);
-    line.ShadowInPlace = false;
+    TextStyle line; // the caption's look, smaller
+    line.PixelSize = layout_.FontPoints * 96.0f / 72.0f;
     line.Middle = true;
     line.Ellipsis = true;
-    for (const show::HomeLine& contact : contacts_.Lines) {
+    for (const show::HomeLine& contact : layout_.Lines) {
         line.Underline = !contact.Link.empty(); // links look like links
         const Gdiplus::Rect r = rectOf(contact.Rect);
         drawShadowedText(g, fromAnsi(contact.Text),

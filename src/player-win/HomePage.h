@@ -3,7 +3,6 @@
 
 #include "show/HomeLayout.h"
 #include "show/PackageData.h"
-#include "show/Ring.h"
 
 #include <array>
 #include <memory>
@@ -22,15 +21,14 @@ public:
     // Paints the page at the frame's size; `hoverIcon` 1..8 names that tab in the caption.
     void paint(Gdiplus::Graphics& g, int hoverIcon) const;
 
-    const zentor::show::IconRectTable& ring() const { return ring_; }
-    const zentor::show::HomeLayout& contacts() const { return contacts_; }
+    // The ring and the contact lines, where the page takes the pointer.
+    const zentor::show::HomeLayout& layout() const { return layout_; }
 
 private:
     std::wstring captionFor(int hoverIcon) const;
 
     int width_, height_;
-    zentor::show::IconRectTable ring_;
-    zentor::show::HomeLayout contacts_;
+    zentor::show::HomeLayout layout_;
     std::unique_ptr<Gdiplus::Bitmap> background_, border_, userIcon_;
     std::array<std::unique_ptr<Gdiplus::Bitmap>, 9> icons_; // tabs 1..8
     std::wstring name_;

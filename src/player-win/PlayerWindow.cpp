@@ -2,6 +2,8 @@
 
 #include "Text.h"
 
+#include "show/ShowFrame.h"
+
 #include <shellapi.h>
 
 #include <algorithm>
@@ -12,6 +14,7 @@ namespace winplayer {
 namespace {
 
 constexpr UINT_PTR ShowTimer = 1;
+constexpr UINT StartMusic = WM_APP + 1;
 constexpr int FadeStepMs = 15;
 
 bool keyOf(WPARAM key, show::ShowKey& out) {
@@ -86,7 +89,6 @@ int PlayerWindow::run(HINSTANCE instance, int show) {
                               nullptr, instance, this);
     if (!window_)
         return 1;
-    music_ = std::make_unique<Music>(package_, show::MusicSettingsOf(package_.Info), window_);
     ShowWindow(window_, show == SW_HIDE ? SW_SHOW : show);
     SetForegroundWindow(window_);
     schedule();
@@ -116,15 +118,27 @@ LRESULT PlayerWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
         key(wParam);
         return 0;
-    case WM_MOUSEMOVE:
-        pointerAt(short(LOWORD(lParam)), short(HIWORD(lParam)));
+    case WM_MOUSEMOVE: {
+        const show::PointerTarget target = pointerAt(short(LOWORD(lParam)), short(HIWORD(lParam)));
+        hand_ = target.hand();
+        react(model_.hover(target));
         return 0;
-    case WM_LBUTTONUP:
-        click(short(LOWORD(lParam)), short(HIWORD(lParam)));
+    }
+    case WM_LBUTTONUP: {
+        const show::PointerTarget target = pointerAt(short(LOWORD(lParam)), short(HIWORD(lParam)));
+        const show::ShowReaction reaction = model_.click(target, now());
+        if (reaction == show::ShowReaction::OpenLink) {
+            // The mail program or the browser, whichever the recipient has chosen.
+            const std::wstring link = fromAnsi(target.Link);
+            ShellExecuteW(window_, L"open", link.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+        } else {
+            react(reaction);
+        }
         return 0;
+    }
     case WM_SETCURSOR:
         if (LOWORD(lParam) == HTCLIENT) {
-            SetCursor(LoadCursor(nullptr, hover_ >= 1 || link_ >= 0 ? IDC_HAND : IDC_ARROW));
+            SetCursor(LoadCursor(nullptr, hand_ ? IDC_HAND : IDC_ARROW));
             return TRUE;
         }
         break;
@@ -139,6 +153,16 @@ LRESULT PlayerWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return 1;
     case WM_PAINT:
         paint();
+        // The music starts once the first frame is on screen: opening it never delays the
+        // picture.
+        if (!musicStarted_) {
+            musicStarted_ = true;
+            PostMessageW(window_, StartMusic, 0, 0);
+        }
+        return 0;
+    case StartMusic:
+        music_ = std::make_unique<Music>(package_, show::MusicSettingsOf(package_.Info), window_);
+        music_->setMuted(model_.muted());
         return 0;
     case WM_DESTROY:
         KillTimer(window_, ShowTimer);
@@ -167,62 +191,31 @@ void PlayerWindow::schedule() {
 
 void PlayerWindow::key(WPARAM key) {
     show::ShowKey k;
-    if (!keyOf(key, k))
-        return;
-    const show::ShowReaction reaction = model_.key(k, now());
+    if (keyOf(key, k))
+        react(model_.key(k, now()));
+}
+
+void PlayerWindow::react(show::ShowReaction reaction) {
     if (reaction == show::ShowReaction::Quit) {
         DestroyWindow(window_);
         return;
     }
-    if (k == show::ShowKey::M && music_)
+    if (music_)
         music_->setMuted(model_.muted());
     if (reaction == show::ShowReaction::Redraw)
         changed();
 }
 
-bool PlayerWindow::homeShown() const {
-    return model_.at(now()).Picture == show::HomePicture;
-}
-
-// Where the frame lies in the window: scaled to fit, centred, on the back colour.
-Gdiplus::Rect PlayerWindow::fitted() const {
+show::IconRect PlayerWindow::fitted() const {
     RECT area;
     GetClientRect(window_, &area);
-    const double scale =
-        std::min(double(area.right) / scene_.width(), double(area.bottom) / scene_.height());
-    const int w = int(scene_.width() * scale + 0.5), h = int(scene_.height() * scale + 0.5);
-    return Gdiplus::Rect((area.right - w) / 2, (area.bottom - h) / 2, w, h);
+    return show::FitFrame({scene_.width(), scene_.height()}, area.right, area.bottom);
 }
 
-void PlayerWindow::pointerAt(int x, int y) {
-    int icon = -1;
-    link_ = -1;
-    const Gdiplus::Rect f = fitted();
-    if (homeShown() && f.Width > 0 && f.Height > 0) {
-        // Window pixels to the frame's, where the ring and the contact lines are laid out.
-        const int fx = int(int64_t(x - f.X) * scene_.width() / f.Width);
-        const int fy = int(int64_t(y - f.Y) * scene_.height() / f.Height);
-        icon = show::IconAt(scene_.home().ring(), fx, fy);
-        link_ = show::LinkAt(scene_.home().contacts(), fx, fy);
-    }
-    if (icon != hover_) {
-        hover_ = icon;
-        InvalidateRect(window_, nullptr, FALSE);
-    }
-}
-
-void PlayerWindow::click(int x, int y) {
-    pointerAt(x, y);
-    if (link_ >= 0) {
-        // The mail program or the browser, whichever the recipient has chosen.
-        const std::wstring target = fromAnsi(scene_.home().contacts().Lines[size_t(link_)].Link);
-        ShellExecuteW(window_, L"open", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-        return;
-    }
-    if (hover_ >= 1 && model_.clickIcon(hover_, now()) == show::ShowReaction::Redraw) {
-        hover_ = -1;
-        changed();
-    }
+show::PointerTarget PlayerWindow::pointerAt(int x, int y) const {
+    const show::FramePoint at =
+        show::ToFramePoint({scene_.width(), scene_.height()}, fitted(), x, y);
+    return model_.pointerAt(scene_.home().layout(), at.X, at.Y, now());
 }
 
 void PlayerWindow::paint() {
@@ -235,7 +228,7 @@ void PlayerWindow::paint() {
                                                    PixelFormat32bppPARGB);
     {
         Gdiplus::Graphics g(frame_.get());
-        scene_.paint(g, model_.at(now()), hover_ >= 1 ? hover_ : 0);
+        scene_.paint(g, model_.at(now()), model_.hoverIcon());
     }
     // Drawn off screen first so that a fade step never flickers.
     HDC memory = CreateCompatibleDC(dc);
@@ -247,7 +240,8 @@ void PlayerWindow::paint() {
         g.FillRectangle(&back, 0, 0, INT(area.right), INT(area.bottom));
         g.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBilinear);
         g.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
-        g.DrawImage(frame_.get(), fitted());
+        const show::IconRect f = fitted();
+        g.DrawImage(frame_.get(), Gdiplus::Rect(f.Left, f.Top, f.Right - f.Left, f.Bottom - f.Top));
     }
     BitBlt(dc, 0, 0, area.right, area.bottom, memory, 0, 0, SRCCOPY);
     SelectObject(memory, old);

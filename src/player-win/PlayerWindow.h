@@ -22,20 +22,19 @@ private:
     void changed();
     void schedule();
     void key(WPARAM key);
-    void pointerAt(int x, int y);
-    void click(int x, int y);
+    zentor::show::PointerTarget pointerAt(int x, int y) const;
+    void react(zentor::show::ShowReaction reaction);
     void paint();
-    bool homeShown() const;
-    Gdiplus::Rect fitted() const;
+    zentor::show::IconRect fitted() const;
 
     const zentor::show::PackageFile& package_;
     Scene& scene_;
     zentor::show::ShowModel model_;
     std::unique_ptr<Music> music_;
+    bool musicStarted_ = false;
     std::unique_ptr<Gdiplus::Bitmap> frame_;
     HWND window_ = nullptr;
-    int hover_ = -1; // the ring icon under the pointer, on the home page
-    int link_ = -1;  // the contact line under it that links somewhere
+    bool hand_ = false; // the pointer is over something that takes a click
     int64_t frequency_ = 1;
 };
 

@@ -2,7 +2,7 @@
 
 #include "model/CodePage.h"
 #include "show/MusicOut.h"
-#include "show/Ring.h"
+#include "show/ShowFrame.h"
 
 #include <QDesktopServices>
 #include <QKeyEvent>
@@ -60,32 +60,24 @@ bool KeyOf(int qtKey, show::ShowKey& key) {
 PlayerWindow::PlayerWindow(const ShowPictures& pictures, const show::ShowSettings& settings,
                            std::function<MusicOut*()> startMusic)
     : pictures_(pictures), model_(settings, 0, pictures.showOrder()),
-      startMusic_(std::move(startMusic)),
-      ring_(show::RingRects(pictures.frame().width(), pictures.frame().height())) {
+      startMusic_(std::move(startMusic)) {
     clock_.start();
     tick_.setSingleShot(true);
     QObject::connect(&tick_, &QTimer::timeout, [this] { update(); });
 }
 
-bool PlayerWindow::onHome() const {
-    const show::ScreenState s = model_.at(now());
-    return s.Picture == show::HomePicture && s.Alpha >= 1.0;
-}
-
-QPoint PlayerWindow::toFrame(QPointF pos) const {
-    const QRect target = FrameTarget(pictures_.frame(), size());
-    if (target.isEmpty())
-        return QPoint(-1, -1);
-    const double scale = double(pictures_.frame().width()) / target.width();
-    return QPoint(int(std::floor((pos.x() - target.left()) * scale)),
-                  int(std::floor((pos.y() - target.top()) * scale)));
+show::PointerTarget PlayerWindow::pointerAt(QPointF pos) const {
+    const show::FrameSize frame{pictures_.frame().width(), pictures_.frame().height()};
+    const show::FramePoint at =
+        show::ToFramePoint(frame, show::FitFrame(frame, width(), height()), pos.x(), pos.y());
+    return model_.pointerAt(pictures_.contacts(), at.X, at.Y, now());
 }
 
 void PlayerWindow::paintEvent(QPaintEvent*) {
     const int64_t t = now();
     const show::ScreenState state = model_.at(t);
     QPainter p(this);
-    p.drawImage(0, 0, PaintShowFrame(pictures_, state, size(), hover_));
+    p.drawImage(0, 0, PaintShowFrame(pictures_, state, size(), model_.hoverIcon()));
     p.end();
     schedule();
     if (startMusic_)
@@ -123,7 +115,8 @@ void PlayerWindow::react(show::ShowReaction r) {
     }
     if (music_)
         music_->setMuted(model_.muted());
-    update();
+    if (r == show::ShowReaction::Redraw)
+        update();
 }
 
 void PlayerWindow::keyPressEvent(QKeyEvent* event) {
@@ -136,34 +129,21 @@ void PlayerWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void PlayerWindow::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint at = toFrame(event->position());
-    const bool home = onHome();
-    const int icon = home ? show::IconAt(ring_, at.x(), at.y()) : -1;
-    const int hover = icon >= 1 ? icon : 0;
-    const bool link = home && show::LinkAt(pictures_.contacts(), at.x(), at.y()) >= 0;
-    setCursor(hover || link ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    if (hover != hover_) {
-        hover_ = hover;
-        update();
-    }
+    const show::PointerTarget target = pointerAt(event->position());
+    setCursor(target.hand() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    react(model_.hover(target));
 }
 
 void PlayerWindow::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !onHome())
+    if (event->button() != Qt::LeftButton)
         return;
-    const QPoint at = toFrame(event->position());
-    const int icon = show::IconAt(ring_, at.x(), at.y());
-    if (icon >= 1) {
-        hover_ = 0;
-        react(model_.clickIcon(icon, now()));
-        return;
-    }
-    const int line = show::LinkAt(pictures_.contacts(), at.x(), at.y());
-    if (line >= 0) {
-        const std::string& link = pictures_.contacts().Lines[size_t(line)].Link;
-        QDesktopServices::openUrl(QUrl::fromUserInput(
-            CodePage::active().decode(QByteArrayView(link.data(), qsizetype(link.size())))));
-    }
+    const show::PointerTarget target = pointerAt(event->position());
+    const show::ShowReaction r = model_.click(target, now());
+    if (r == show::ShowReaction::OpenLink)
+        QDesktopServices::openUrl(QUrl::fromUserInput(CodePage::active().decode(
+            QByteArrayView(target.Link.data(), qsizetype(target.Link.size())))));
+    else
+        react(r);
 }
 
 } // namespace zentor

@@ -31,8 +31,7 @@ protected:
 
 private:
     int64_t now() const { return clock_.elapsed(); }
-    bool onHome() const;
-    QPoint toFrame(QPointF pos) const;
+    show::PointerTarget pointerAt(QPointF pos) const;
     void react(show::ShowReaction r);
     void schedule();
 
@@ -42,8 +41,6 @@ private:
     MusicOut* music_ = nullptr;
     QElapsedTimer clock_;
     QTimer tick_;
-    show::IconRectTable ring_;
-    int hover_ = 0;
 };
 
 } // namespace zentor

@@ -40,6 +40,7 @@ std::string ContactLink(ContactKind kind, const std::string& text) {
 
 HomeLayout LayoutHome(const ShowProfile& profile, int frameWidth, int frameHeight) {
     HomeLayout layout;
+    layout.Ring = RingRects(frameWidth, frameHeight);
     const int left = RoundHalfEven((frameWidth - HomeBlockWidth) / 2.0);
     const int top = RoundHalfEven(frameHeight / 2.0) + HomeBlockGap;
     const std::pair<ContactKind, const std::string*> fields[] = {

@@ -21,12 +21,14 @@ struct HomeLine {
     IconRect Rect;
 };
 
-// Where the home page puts the contact details: a block inside the ring, under the name
-// caption, clear of the icons. Both players draw and hit-test from this alone.
+// What the home page shows that takes the pointer: the ring of icons, and the contact
+// details in a block inside the ring, under the name caption, clear of the icons. Both
+// players draw and hit-test from this alone.
 struct HomeLayout {
+    IconRectTable Ring{};
     IconRect Block;              // the lines' union (empty when there are none)
     std::vector<HomeLine> Lines; // top to bottom
-    int FontPixelSize = 13;      // "Arial", white with a dark shadow like the caption
+    int FontPoints = 10;         // "Arial" at 96 dpi, white with a shadow like the caption
 };
 
 inline constexpr int HomeLineHeight = 17;

@@ -124,6 +124,7 @@ void ShowModel::settle(int64_t nowMs) {
 
 void ShowModel::showStill(int picture, int64_t nowMs) {
     const ScreenState now = at(nowMs);
+    hover_ = 0; // the home page leaves or comes back with the person's name
     running_ = false;
     pausedAt_ = -1;
     if (now.Picture == picture && now.Alpha >= 1.0)
@@ -136,6 +137,7 @@ void ShowModel::showStill(int picture, int64_t nowMs) {
 // Runs the show from page `index` of the order; a paused show resumes.
 void ShowModel::runFrom(int index, int64_t nowMs) {
     const ScreenState now = at(nowMs);
+    hover_ = 0;
     running_ = true;
     anchor_ = index;
     anchorPrevious_ = now.Picture;
@@ -204,7 +206,7 @@ ShowReaction ShowModel::key(ShowKey k, int64_t nowMs) {
 
 ShowReaction ShowModel::clickIcon(int icon, int64_t nowMs) {
     settle(nowMs);
-    if (running_ || at(nowMs).Picture != HomePicture)
+    if (!takesPointer(nowMs))
         return ShowReaction::None;
     if (icon == SlideShowIcon) {
         runFrom(0, nowMs);
@@ -214,6 +216,42 @@ ShowReaction ShowModel::clickIcon(int icon, int64_t nowMs) {
         return ShowReaction::None;
     showStill(PageEntryOfTab(icon), nowMs);
     return ShowReaction::Redraw;
+}
+
+bool ShowModel::takesPointer(int64_t nowMs) const {
+    // A running show has pages on screen until it has run out.
+    const ScreenState s = at(nowMs);
+    return s.Picture == HomePicture && s.Alpha >= 1.0;
+}
+
+PointerTarget ShowModel::pointerAt(const HomeLayout& home, int x, int y, int64_t nowMs) const {
+    PointerTarget target;
+    if (!takesPointer(nowMs))
+        return target;
+    const int icon = IconAt(home.Ring, x, y);
+    if (icon >= 1) {
+        target.Icon = icon;
+        return target;
+    }
+    target.Line = LinkAt(home, x, y);
+    if (target.Line >= 0)
+        target.Link = home.Lines[size_t(target.Line)].Link;
+    return target;
+}
+
+ShowReaction ShowModel::hover(const PointerTarget& target) {
+    if (target.Icon == hover_)
+        return ShowReaction::None;
+    hover_ = target.Icon;
+    return ShowReaction::Redraw;
+}
+
+ShowReaction ShowModel::click(const PointerTarget& target, int64_t nowMs) {
+    if (target.Icon >= 1)
+        return clickIcon(target.Icon, nowMs);
+    if (target.Line >= 0 && !target.Link.empty() && takesPointer(nowMs))
+        return ShowReaction::OpenLink;
+    return ShowReaction::None;
 }
 
 } // namespace zentor::show

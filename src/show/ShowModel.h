@@ -1,9 +1,11 @@
 #pragma once
 
+#include "HomeLayout.h"
 #include "PackageData.h"
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace zentor::show {
@@ -66,7 +68,16 @@ struct ScreenState {
 enum class ShowKey { Escape, Left, Right, Up, Down, PageUp, PageDown, Space, F5, M };
 
 // What the window has to do after an input.
-enum class ShowReaction { None, Redraw, Quit };
+enum class ShowReaction { None, Redraw, Quit, OpenLink };
+
+// What lies under the pointer on the home page: a ring icon, else a contact line that
+// links somewhere, else nothing.
+struct PointerTarget {
+    int Icon = 0;     // 1..8
+    int Line = -1;    // into HomeLayout::Lines
+    std::string Link; // where that line goes
+    bool hand() const { return Icon >= 1 || Line >= 0; }
+};
 
 // The player's behaviour as a function of time (ms on any steady clock the caller chooses)
 // and of the recipient's input. Time never runs backwards between calls.
@@ -86,8 +97,22 @@ public:
 
     ShowReaction key(ShowKey k, int64_t nowMs);
     // A click on the home page's ring: icon 1..7 shows that tab's page, the slide-show icon
-    // starts the show. Ignored unless the home page is what is shown.
+    // starts the show. Ignored unless the home page takes the pointer.
     ShowReaction clickIcon(int icon, int64_t nowMs);
+
+    // The home page takes clicks and hover only once it is on screen, faded in: a click
+    // never opens what the recipient cannot see yet.
+    bool takesPointer(int64_t nowMs) const;
+    // What is under the pointer at (x, y) of the frame; nothing unless takesPointer.
+    PointerTarget pointerAt(const HomeLayout& home, int x, int y, int64_t nowMs) const;
+    // The pointer is over `target`: a ring icon's name becomes the home page's caption.
+    // Redraw when the caption changes.
+    ShowReaction hover(const PointerTarget& target);
+    // The ring icon whose name the caption shows, 0 for the person's name.
+    int hoverIcon() const { return hover_; }
+    // A click on `target`: a ring icon as clickIcon; a contact line gives OpenLink, and the
+    // window opens target.Link with the recipient's mail program or browser.
+    ShowReaction click(const PointerTarget& target, int64_t nowMs);
 
     const ShowSettings& settings() const { return settings_; }
 
@@ -115,6 +140,7 @@ private:
     int64_t pausedTotal_ = 0;
     int64_t pausedAt_ = -1;
     bool muted_ = false;
+    int hover_ = 0;
 };
 
 } // namespace zentor::show

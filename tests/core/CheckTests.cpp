@@ -104,6 +104,14 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
              text(d, 1).FontShadow = -1;
          },
          {}},
+        {"dark blue over a dark picture: its black shadow does not help",
+         [&](Document& d) {
+             text(d, 6).FontColor = int32_t(0xFF000080);
+             text(d, 6).FontShadow = -1;
+             PlaceImage(d, 1, 6, QRect(0, 0, 400, 200),
+                        Picture(box, "dark.png", 400, 200, 0xFF202020));
+         },
+         {{FindingKind::Contrast, 6}}},
         {"grey 3.5:1 at 12 pt",
          [&](Document& d) { text(d, 2).FontColor = int32_t(0xFF888888); },
          {{FindingKind::Contrast, 2}}},
@@ -332,4 +340,22 @@ TEST(CheckCli, PrintsFindingsForPeopleOrAsJsonWithTheExitStatus) {
     EXPECT_EQ(RunCli({"check", clean, "--wrong"}, &out, &err), 2);
     EXPECT_EQ(RunCli({"check", box.path("none.qds")}, &out, &err), 1);
     EXPECT_TRUE(err.contains("cannot open"));
+}
+
+TEST(Check, TheStatusAfterAnOutputAddsWhatRemains) {
+    const struct {
+        const char* said;
+        size_t remaining;
+        const char* expected;
+    } cases[] = {
+        {"Wrote cv.pdf", 0, "Wrote cv.pdf"},
+        {"Wrote cv.pdf", 3,
+         "Wrote cv.pdf; 3 findings remain: Edit > Check Résumé... (F7) lists them"},
+        {"Ready", 1, "1 finding remains: Edit > Check Résumé... (F7) lists them"},
+        {"", 2, "2 findings remain: Edit > Check Résumé... (F7) lists them"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(StatusAfterOutput(QString::fromUtf8(c.said), c.remaining),
+                  QString::fromUtf8(c.expected))
+            << c.said << " " << c.remaining;
 }

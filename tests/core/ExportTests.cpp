@@ -5,6 +5,7 @@
 #include "export/ExportCommand.h"
 #include "export/PdfExport.h"
 #include "export/PdfJoin.h"
+#include "export/WebPageExport.h"
 #include "io/ScriptFile.h"
 #include "render/PageCompositor.h"
 #include "render/ResImages.h"
@@ -288,6 +289,16 @@ TEST(ExportWebPage, ShowMovesOnByItself) {
     const QJsonObject seen = Probe(html, pr.box.path("profile"), {"--wait-advance"});
     EXPECT_EQ(Strings(seen["errors"]), QStringList());
     EXPECT_EQ(seen["advanced"].toString(), "7"); // Personal, the strip's first page
+}
+
+TEST(ExportWebPage, Base64OfEveryTailLength) {
+    const QByteArray bytes("\x00\xff\x10\x80\x7f\xfe\x01", 7);
+    for (qsizetype n = 0; n <= bytes.size(); ++n) {
+        QByteArray out("uri,");
+        out.reserve(64);
+        AppendBase64(out, QByteArrayView(bytes).first(n));
+        EXPECT_EQ(out, "uri," + bytes.first(n).toBase64()) << n << " bytes";
+    }
 }
 
 TEST(ExportCommand, AsksForAPathAddsTheEndingAndConfirmsOverwriting) {

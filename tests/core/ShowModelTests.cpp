@@ -1,4 +1,6 @@
+#include "show/HomeLayout.h"
 #include "show/Ring.h"
+#include "show/ShowFrame.h"
 #include "show/ShowModel.h"
 
 #include <gtest/gtest.h>
@@ -265,6 +267,93 @@ TEST(ShowModelTest, ChangesFadeFromWhatWasShown) {
     m.key(ShowKey::F5, 2000);
     EXPECT_EQ(m.at(2000), (ScreenState{17, 13, 0.0}));
     EXPECT_EQ(m.nextChangeMs(3500), 2000 + 7000);
+}
+
+// The home page takes the pointer only once it has faded in, and never during the show.
+TEST(ShowModelTest, PointerOnTheHomePage) {
+    ShowProfile profile;
+    profile.Phone = "0123";
+    profile.Email = "a@b.c";
+    const HomeLayout home = LayoutHome(profile, 800, 600);
+    // Fades of a second: page 13 from 0, home again from 2000 to 3000.
+    ShowModel m(ShowSettingsOf(header(40, 0, 7000)), -5000);
+    m.clickIcon(3, 0);
+    m.key(ShowKey::Escape, 2000);
+    struct Case {
+        int x, y;
+        int64_t t;
+        int icon, line;
+    } cases[] = {
+        {650, 300, 2999, 0, -1}, {400, 430, 2999, 0, -1}, // fading in
+        {650, 300, 3000, 1, -1}, {400, 550, 3000, 3, -1},
+        {400, 430, 3000, 0, 1},  {400, 415, 3000, 0, -1}, // the phone links nowhere
+        {400, 300, 3000, 0, -1},                          // nor does the centre picture
+        {-1, -1, 3000, 0, -1},
+    };
+    for (const Case& c : cases) {
+        const PointerTarget target = m.pointerAt(home, c.x, c.y, c.t);
+        EXPECT_EQ(target.Icon, c.icon) << c.x << "," << c.y << " at " << c.t;
+        EXPECT_EQ(target.Line, c.line) << c.x << "," << c.y << " at " << c.t;
+        EXPECT_EQ(target.hand(), c.icon > 0 || c.line >= 0);
+    }
+    EXPECT_EQ(m.pointerAt(home, 400, 430, 3000).Link, "mailto:a@b.c");
+
+    // A click while the home page fades in does nothing; once it is there, it does.
+    PointerTarget icon1;
+    icon1.Icon = 1;
+    EXPECT_EQ(m.click(icon1, 2999), ShowReaction::None);
+    EXPECT_EQ(m.at(2999).Picture, Home);
+    EXPECT_EQ(m.click(m.pointerAt(home, 400, 430, 3000), 3000), ShowReaction::OpenLink);
+
+    // Hovering an icon names it until a change of picture.
+    EXPECT_EQ(m.hover(m.pointerAt(home, 650, 300, 3000)), ShowReaction::Redraw);
+    EXPECT_EQ(m.hoverIcon(), 1);
+    EXPECT_EQ(m.hover(m.pointerAt(home, 651, 301, 3001)), ShowReaction::None);
+    const PointerTarget link = m.pointerAt(home, 400, 430, 3001);
+    EXPECT_EQ(m.click(icon1, 3002), ShowReaction::Redraw);
+    EXPECT_EQ(m.at(5000).Picture, 11);
+    EXPECT_EQ(m.hoverIcon(), 0);
+    EXPECT_EQ(m.click(link, 5000), ShowReaction::None);
+    m.key(ShowKey::Escape, 6000);
+    m.hover(m.pointerAt(home, 650, 300, 8000));
+    m.key(ShowKey::F5, 8001);
+    EXPECT_EQ(m.hoverIcon(), 0);
+
+    // A running show takes no pointer.
+    const ShowModel running(ShowSettingsOf(header(0, 1, 7000)), 0);
+    EXPECT_FALSE(running.takesPointer(100));
+    EXPECT_EQ(running.pointerAt(home, 650, 300, 100).Icon, 0);
+}
+
+// The frame fitted into a window of another shape, and the window's pixels mapped back.
+TEST(ShowFrameTest, FitAndMapBack) {
+    struct Fit {
+        int w, h;
+        IconRect expect;
+    } fits[] = {
+        {800, 600, {0, 0, 800, 600}},
+        {1920, 1080, {240, 0, 1680, 1080}},
+        {1000, 1000, {0, 125, 1000, 875}},
+        {1366, 768, {171, 0, 1195, 768}},
+        {0, 0, {0, 0, 0, 0}},
+    };
+    for (const Fit& f : fits)
+        EXPECT_EQ(FitFrame({800, 600}, f.w, f.h), f.expect) << f.w << "x" << f.h;
+
+    const IconRect fitted = FitFrame({800, 600}, 1920, 1080);
+    struct Point {
+        double x, y;
+        int fx, fy;
+    } points[] = {{240, 0, 0, 0},
+                  {239.5, 10, -1, 5},
+                  {1679.9, 1079.9, 799, 599},
+                  {1680, 1080, 800, 600},
+                  {960, 540, 400, 300}};
+    for (const Point& p : points) {
+        const FramePoint at = ToFramePoint({800, 600}, fitted, p.x, p.y);
+        EXPECT_EQ(at.X, p.fx) << p.x;
+        EXPECT_EQ(at.Y, p.fy) << p.y;
+    }
 }
 
 TEST(RingTest, IconsAroundTheCentreAndHitTesting) {

@@ -6,6 +6,7 @@
 #include "editor/check/CheckPanel.h"
 #include "editor/check/CheckUi.h"
 #include "editor/check/SpellService.h"
+#include "editor/check/SpellUnderline.h"
 #include "render/ResImages.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +14,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSettings>
 #include <QTest>
@@ -104,13 +106,47 @@ TEST_F(CheckWindowTest, MisspeltWordsAreUnderlinedUntilAccepted) {
     EXPECT_FALSE(PersonalWords().contains(QStringLiteral("awward")));
 }
 
+TEST_F(CheckWindowTest, AOneLineBoxUnderlinesAsItsTextChangesNotAsItsCursorMoves) {
+    QLineEdit box;
+    UnderlineSpelling(&box, check->spelling());
+    box.resize(400, 30);
+    box.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&box));
+    // The columns the red wavy line covers, first and last.
+    const auto red = [&box] {
+        const QImage shot = box.grab().toImage();
+        int first = -1, last = -1;
+        for (int y = 0; y < shot.height(); ++y)
+            for (int x = 0; x < shot.width(); ++x) {
+                const QColor c = shot.pixelColor(x, y);
+                if (c.red() - c.green() > 60 && c.red() - c.blue() > 60) {
+                    first = first < 0 ? x : std::min(first, x);
+                    last = std::max(last, x);
+                }
+            }
+        return std::pair(first, last);
+    };
+    box.setText(QStringLiteral("Objectve and pages"));
+    const auto underlined = red();
+    ASSERT_GE(underlined.first, 0);
+    box.setCursorPosition(2);
+    box.setCursorPosition(15);
+    EXPECT_EQ(red(), underlined);
+    box.setText(QStringLiteral("Pages and objectve"));
+    EXPECT_GT(red().first, underlined.second);
+    box.setText(QStringLiteral("Pages and objectives"));
+    EXPECT_EQ(red().first, -1);
+}
+
 TEST_F(CheckWindowTest, AWrittenPackageLeavesTheCountInTheStatusBar) {
     const QString path = sandbox.path(QStringLiteral("cv.qdv"));
     prompter.expectFile(true, "Generate QDV File", "*.qdv|*.qdv", path);
     window->toolbarAction(CmdGenerateQdv)->trigger();
-    QApplication::processEvents();
+    // Counted on a worker: the window goes on meanwhile.
+    const auto* panel = window->findChild<QLabel*>(QStringLiteral("StatusPanel1"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel->text().contains(QLatin1String("remain")); }));
     // Six pages are empty and one word is misspelt; said after what was written.
-    const QString status = window->findChild<QLabel*>(QStringLiteral("StatusPanel1"))->text();
+    const QString status = panel->text();
     EXPECT_TRUE(status.startsWith(QLatin1String("Wrote cv.qdv"))) << status.toStdString();
     EXPECT_TRUE(status.endsWith(
         QStringLiteral("; 7 findings remain: Edit > Check Résumé... (F7) lists them")))

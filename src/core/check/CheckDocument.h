@@ -2,6 +2,7 @@
 
 #include "check/Finding.h"
 #include "check/SpellChecker.h"
+#include "io/MediaFiles.h"
 
 #include <QStringList>
 
@@ -36,5 +37,13 @@ void CheckSpelling(const Document& doc, const SpellChecker& speller, std::vector
 void CheckTexts(const Document& doc, PictureCache* cache, std::vector<Finding>& out);
 void CheckPictures(const Document& doc, PictureCache* cache, std::vector<Finding>& out);
 void CheckEmptyPages(const Document& doc, std::vector<Finding>& out);
+
+// A file the résumé draws or plays that cannot be read, as the missing kind finds it.
+struct UnreadableMedium {
+    MediaField field;
+    QString path; // resolved against the project's folder
+};
+// Those files in the order the document lists its media fields.
+std::vector<UnreadableMedium> UnreadableMedia(const Document& doc, PictureCache* cache = nullptr);
 
 } // namespace zentor

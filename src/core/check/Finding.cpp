@@ -55,6 +55,26 @@ QString FindingLine(const Document& doc, const Finding& f) {
     return line + QStringLiteral(": ") + FindingProblem(f);
 }
 
+QString FindingCount(size_t n) {
+    return n == 1 ? QStringLiteral("1 finding") : QStringLiteral("%1 findings").arg(n);
+}
+
+QString NothingToFix() {
+    return QStringLiteral("Nothing to fix.");
+}
+
+QString StatusAfterOutput(const QString& said, size_t remaining) {
+    if (remaining == 0)
+        return said;
+    const QString remain =
+        FindingCount(remaining) +
+        (remaining == 1 ? QStringLiteral(" remains") : QStringLiteral(" remain")) +
+        QStringLiteral(": Edit > Check Résumé... (F7) lists them");
+    // Beside what the command reported, not instead of it.
+    return said.isEmpty() || said == QLatin1String("Ready") ? remain
+                                                            : said + QStringLiteral("; ") + remain;
+}
+
 QJsonObject FindingJson(const Finding& f) {
     QJsonObject o;
     o.insert(QStringLiteral("kind"), KindName(f.kind));

@@ -43,6 +43,17 @@ QString FindingProblem(const Finding& f);
 // One line for people: page, object, what, and what to write instead.
 QString FindingLine(const Document& doc, const Finding& f);
 
+// "1 finding" / "3 findings".
+QString FindingCount(size_t n);
+
+// What a check that found nothing says.
+QString NothingToFix();
+
+// The status once a package or an export is written: what the command said (the file
+// written), then how many findings remain and where they are listed; `said` as it is when
+// nothing remains.
+QString StatusAfterOutput(const QString& said, size_t remaining);
+
 // {"kind", "tab", "object", "message", "word", "suggestions"}; tab and word are null where
 // they do not apply.
 QJsonObject FindingJson(const Finding& f);

@@ -60,6 +60,7 @@ QString SpellChecker::decode(const std::string& word) const {
 }
 
 bool SpellChecker::isCorrect(const QString& word) const {
+    std::lock_guard lock(mutex_);
     auto it = known_.constFind(word);
     if (it != known_.constEnd())
         return *it;
@@ -69,6 +70,7 @@ bool SpellChecker::isCorrect(const QString& word) const {
 }
 
 QStringList SpellChecker::suggestions(const QString& word) const {
+    std::lock_guard lock(mutex_);
     auto it = suggested_.constFind(word);
     if (it != suggested_.constEnd())
         return *it;
@@ -82,6 +84,7 @@ QStringList SpellChecker::suggestions(const QString& word) const {
 void SpellChecker::accept(const QString& word) {
     if (word.isEmpty())
         return;
+    std::lock_guard lock(mutex_);
     accepted_.insert(word.toLower());
     // The answers for its other spellings ("Zentor", "ZENTOR") are asked again.
     known_.removeIf([&](auto it) { return it.key().compare(word, Qt::CaseInsensitive) == 0; });

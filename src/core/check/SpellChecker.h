@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <mutex>
 
 class Hunspell;
 
@@ -22,7 +23,8 @@ QStringList AvailableDictionaries(const QString& folder = QLatin1String(Dictiona
 QString LocaleSpellingLanguage();
 
 // One Hunspell dictionary plus the words the user accepts. Answers are remembered per word:
-// a résumé repeats its words, and typing re-checks a whole paragraph on every key.
+// a résumé repeats its words, and typing re-checks a whole paragraph on every key. Safe to
+// share between threads: the editor checks the résumé on a worker while its boxes underline.
 class SpellChecker {
 public:
     // Opens `language` ("en_US", also "en-US") from `folder`; nullptr with `error` naming the
@@ -48,6 +50,7 @@ private:
     std::unique_ptr<Hunspell> hunspell_;
     QString language_;
     bool utf8_;
+    mutable std::mutex mutex_; // Hunspell and the answers remembered
     QSet<QString> accepted_;
     mutable QHash<QString, bool> known_;
     mutable QHash<QString, QStringList> suggested_;

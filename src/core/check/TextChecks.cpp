@@ -35,6 +35,22 @@ constexpr int SampleStep = 2;
 // samples (a stray highlight in a photo) does not decide.
 constexpr double WeakShare = 0.1;
 
+// How the text stands out from its own shadow, which outlines every glyph; nothing without
+// one.
+std::optional<double> ShadowContrast(const TextElement& t) {
+    if (t.FontShadow == 0)
+        return std::nullopt;
+    const QRgb colour = QRgb(uint32_t(t.FontColor));
+    const QRgb shadow = QRgb(ShadowColorFor(uint32_t(t.FontColor)));
+    return ContrastRatio(RelativeLuminance(Over(colour, shadow)), RelativeLuminance(shadow));
+}
+
+// A text its shadow makes readable whatever lies under it: its page need not be drawn.
+bool ReadableByShadow(const TextElement& t) {
+    const auto ratio = ShadowContrast(t);
+    return ratio && *ratio >= RequiredContrast(t.FontSize, t.FontStyle);
+}
+
 std::optional<double> TextContrast(const TextElement& t, const TextBoxLayout& layout,
                                    const QImage& backdrop) {
     const QRgb colour = QRgb(uint32_t(t.FontColor));
@@ -57,14 +73,7 @@ std::optional<double> TextContrast(const TextElement& t, const TextBoxLayout& la
         return std::nullopt;
     const auto weak = ratios.begin() + ptrdiff_t(double(ratios.size() - 1) * WeakShare);
     std::nth_element(ratios.begin(), weak, ratios.end());
-    double ratio = *weak;
-    // A shadow outlines the glyphs in its own colour, so they stand out against it too.
-    if (t.FontShadow != 0) {
-        const QRgb shadow = QRgb(ShadowColorFor(uint32_t(t.FontColor)));
-        ratio = std::max(ratio, ContrastRatio(RelativeLuminance(Over(colour, shadow)),
-                                              RelativeLuminance(shadow)));
-    }
-    return ratio;
+    return std::max(*weak, ShadowContrast(t).value_or(0.0));
 }
 
 void CheckFit(const TextElement& t, int slot, const TextBoxLayout& layout,
@@ -86,45 +95,59 @@ void CheckFit(const TextElement& t, int slot, const TextBoxLayout& layout,
     }
 }
 
+// A page's texts laid out once for both kinds: a text that does not fit its box, and one
+// hard to read over what lies under it.
+std::vector<Finding> CheckPageTexts(const Document& doc, int tab, PictureCache* cache) {
+    std::vector<Finding> out;
+    const auto onPage = [tab](const TextElement& t) { return t.TabNo == tab; };
+    // Drawing the page (decoding its pictures) is most of the work: a page whose texts all
+    // stand out from their own shadows is not drawn.
+    const bool needsBackdrop =
+        std::any_of(doc.Texts.begin() + 1, doc.Texts.end(),
+                    [&](const TextElement& t) { return onPage(t) && !ReadableByShadow(t); });
+    const ResImages noBadge; // the content pages carry no built-in picture
+    const QImage backdrop =
+        needsBackdrop
+            ? RenderPageImage(doc, tab, noBadge, cache, false).convertToFormat(QImage::Format_RGB32)
+            : QImage();
+    for (int slot = 1; slot <= MaxTexts; ++slot) {
+        const TextElement& t = doc.Texts[size_t(slot)];
+        if (!onPage(t))
+            continue;
+        const TextBoxLayout layout = Layout(t);
+        CheckFit(t, slot, layout, out);
+        if (backdrop.isNull() || ReadableByShadow(t))
+            continue;
+        const auto ratio = TextContrast(t, layout, backdrop);
+        const double needed = RequiredContrast(t.FontSize, t.FontStyle);
+        if (!ratio || *ratio >= needed)
+            continue;
+        Finding f = About(FindingKind::Contrast, t, slot);
+        f.message = QStringLiteral("the text stands out %1:1 from what lies under it; at "
+                                   "least %2:1 is needed to read it")
+                        .arg(std::floor(*ratio * 10) / 10, 0, 'f', 1)
+                        .arg(needed, 0, 'f', needed == 3.0 ? 0 : 1);
+        out.push_back(std::move(f));
+    }
+    return out;
+}
+
 } // namespace
 
-// Laid out once for both: a text that does not fit its box, and one hard to read.
+// The pages on all cores, their findings in page order.
 void CheckTexts(const Document& doc, PictureCache* cache, std::vector<Finding>& out) {
-    // What lies under the texts, page by page, drawn on all cores: decoding the pictures is
-    // most of the work.
-    std::array<std::future<QImage>, SlideShowTab> backdrops;
+    std::array<std::future<std::vector<Finding>>, SlideShowTab> pages;
     for (int tab = 1; tab < SlideShowTab; ++tab) {
         const bool hasText = std::any_of(doc.Texts.begin() + 1, doc.Texts.end(),
                                          [tab](const TextElement& t) { return t.TabNo == tab; });
         if (hasText)
-            backdrops[size_t(tab)] = std::async(std::launch::async, [&doc, tab, cache] {
-                const ResImages noBadge; // the content pages carry no built-in picture
-                return RenderPageImage(doc, tab, noBadge, cache, false)
-                    .convertToFormat(QImage::Format_RGB32);
-            });
+            pages[size_t(tab)] = std::async(
+                std::launch::async, [&doc, tab, cache] { return CheckPageTexts(doc, tab, cache); });
     }
-    for (int tab = 1; tab < SlideShowTab; ++tab) {
-        if (!backdrops[size_t(tab)].valid())
-            continue;
-        const QImage backdrop = backdrops[size_t(tab)].get();
-        for (int slot = 1; slot <= MaxTexts; ++slot) {
-            const TextElement& t = doc.Texts[size_t(slot)];
-            if (t.TabNo != tab)
-                continue;
-            const TextBoxLayout layout = Layout(t);
-            CheckFit(t, slot, layout, out);
-            const auto ratio = backdrop.isNull() ? std::nullopt : TextContrast(t, layout, backdrop);
-            const double needed = RequiredContrast(t.FontSize, t.FontStyle);
-            if (!ratio || *ratio >= needed)
-                continue;
-            Finding f = About(FindingKind::Contrast, t, slot);
-            f.message = QStringLiteral("the text stands out %1:1 from what lies under it; at "
-                                       "least %2:1 is needed to read it")
-                            .arg(std::floor(*ratio * 10) / 10, 0, 'f', 1)
-                            .arg(needed, 0, 'f', needed == 3.0 ? 0 : 1);
-            out.push_back(std::move(f));
-        }
-    }
+    for (auto& page : pages)
+        if (page.valid())
+            for (Finding& f : page.get())
+                out.push_back(std::move(f));
 }
 
 } // namespace zentor

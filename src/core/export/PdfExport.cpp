@@ -7,6 +7,7 @@
 #include "model/DefaultDocument.h"
 #include "model/Document.h"
 #include "render/PageCompositor.h"
+#include "render/PageContent.h"
 #include "render/PictureCache.h"
 
 #include <QBuffer>
@@ -22,8 +23,10 @@ namespace {
 
 constexpr int PixelsPerInch = 96;
 
-// One page of the résumé as a PDF of its own.
-QByteArray PagePdf(QSize frame, const std::function<void(QPainter&)>& paint) {
+using Painting = std::function<void(QPainter&)>;
+
+// Pages of the résumé's size as a PDF of their own, one painting a page.
+QByteArray PagePdf(QSize frame, const std::vector<Painting>& pages) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -35,7 +38,11 @@ QByteArray PagePdf(QSize frame, const std::function<void(QPainter&)>& paint) {
     writer.setPageLayout(QPageLayout(QPageSize(points, QPageSize::Point), QPageLayout::Portrait,
                                      QMarginsF(0, 0, 0, 0)));
     QPainter p(&writer);
-    paint(p);
+    for (size_t i = 0; i < pages.size(); ++i) {
+        if (i > 0)
+            writer.newPage();
+        pages[i](p);
+    }
     p.end();
     return bytes;
 }
@@ -51,13 +58,22 @@ QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessCon
     // join keeps one copy of it).
     PictureCache cache;
     std::vector<PictureJobs::Job> jobs;
-    jobs.push_back(
-        [&] { return PagePdf(frame, [&](QPainter& p) { PaintCover(p, doc, res, ctx, &cache); }); });
-    // The strip's order: Personal (tab 7) first, Overview (tab 1) last.
-    for (int tab = 7; tab >= 1; --tab)
+    jobs.push_back([&] {
+        return PagePdf(frame, {[&](QPainter& p) { PaintCover(p, doc, res, ctx, &cache); }});
+    });
+    // The strip's order: Personal (tab 7) first, Overview (tab 1) last. Each is three layers
+    // joined into one page: what lies under the texts, their shadows, their letters. Shadows
+    // drawn as glyphs of their own cost a fraction of their outlines, and readers skip them.
+    std::map<size_t, PdfLayers> layered;
+    for (int tab = 7; tab >= 1; --tab) {
+        layered[jobs.size()] = PdfLayers{1};
         jobs.push_back([&, tab] {
-            return PagePdf(frame, [&](QPainter& p) { PaintPage(p, doc, tab, res, &cache); });
+            return PagePdf(
+                frame, {[&](QPainter& p) { PaintPage(p, doc, tab, res, &cache, false); },
+                        [&](QPainter& p) { DrawPageTexts(p, doc, tab, TextPasses::ShadowOnly); },
+                        [&](QPainter& p) { DrawPageTexts(p, doc, tab, TextPasses::LettersOnly); }});
         });
+    }
     // Pages are written side by side, each its own small PDF, then joined.
     const size_t count = jobs.size();
     PictureJobs run(std::move(jobs), std::max(1, QThread::idealThreadCount()));
@@ -68,8 +84,10 @@ QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessCon
         parts.push_back(run.take(i).value_or(QByteArray()));
     }
     const QString person = PersonName(doc);
-    return JoinPdfs(parts, {person, person, QStringLiteral("Vitara Zentor"),
-                            QStringLiteral("Qt ") + QLatin1String(qVersion())});
+    return JoinPdfs(parts,
+                    {person, person, QStringLiteral("Vitara Zentor"),
+                     QStringLiteral("Qt ") + QLatin1String(qVersion())},
+                    layered);
 }
 
 } // namespace zentor

@@ -5,6 +5,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <functional>
 #include <map>
@@ -211,6 +212,98 @@ bool IsPicture(const PdfObject& obj) {
     return !obj.body.isEmpty() && obj.head.contains("/Subtype /Image");
 }
 
+// The entries of a resource dictionary as QPdfWriter writes it ("/Font <<" then one "/Name
+// value" a line, ">>"), added to `merged` (kind -> name -> value; the first of a name
+// stays). False when it is not in that shape.
+bool MergeResources(QByteArrayView dict,
+                    std::map<QByteArray, std::map<QByteArray, QByteArray>>& merged) {
+    std::map<QByteArray, QByteArray>* kind = nullptr;
+    for (QByteArrayView line : QByteArrayView(dict).toByteArray().split('\n')) {
+        line = line.trimmed();
+        if (line.isEmpty() || line == "<<" || line == "endobj")
+            continue;
+        if (line == ">>") {
+            kind = nullptr;
+            continue;
+        }
+        if (!line.startsWith('/'))
+            return false;
+        const qsizetype space = line.indexOf(' ');
+        if (space < 0)
+            return false;
+        const QByteArray key = line.first(space).toByteArray();
+        const QByteArrayView value = line.sliced(space + 1).trimmed();
+        if (value == "<<")
+            kind = &merged[key];
+        else if (kind)
+            kind->emplace(key, value.toByteArray());
+        else
+            return false;
+    }
+    return true;
+}
+
+QByteArray StreamObject(QByteArrayView content) {
+    return "\n<<\n/Length " + QByteArray::number(content.size()) + "\n>>\nstream\n" +
+           content.toByteArray() + "endstream\nendobj\n";
+}
+
+// The page object that lays part `part`'s pages one over another: their contents in order,
+// each inside its own saved graphics state (every page of QPdfWriter starts by setting up
+// its own coordinates), the unread layer inside an empty actual text; their resources,
+// links and the first page's media box. `number` renumbers the part's objects; `shared`
+// numbers the five small streams that go between the layers. Empty when the pages are not
+// as QPdfWriter writes them.
+QByteArray LayeredPage(const PdfPart& part, const PdfLayers& layers,
+                       const std::function<int(int)>& number, int shared) {
+    const auto head = [&](int n) -> QByteArrayView {
+        const auto it = part.objects.find(n);
+        return it == part.objects.end() ? QByteArrayView() : QByteArrayView(it->second.head);
+    };
+    const auto ref = [&](int n) { return QByteArray::number(n) + " 0 R"; };
+    const auto mapped = [&](QByteArrayView h) {
+        return MapReferences(h, [&](int n) { return QByteArray::number(number(n)); });
+    };
+    std::map<QByteArray, std::map<QByteArray, QByteArray>> resources;
+    QByteArray contents, annots;
+    for (size_t i = 0; i < part.kids.size(); ++i) {
+        const QByteArrayView page = head(part.kids[i]);
+        const int content = ReferenceAfter(page, "/Contents");
+        if (page.isEmpty() || content == 0 ||
+            !MergeResources(mapped(head(ReferenceAfter(page, "/Resources"))), resources))
+            return QByteArray();
+        contents += ' ' + ref(shared + (i == 0 ? 0 : 1));
+        if (int(i) == layers.UnreadLayer)
+            contents += ' ' + ref(shared + 2);
+        contents += ' ' + ref(number(content));
+        if (int(i) == layers.UnreadLayer)
+            contents += ' ' + ref(shared + 3);
+        for (int link : References(head(ReferenceAfter(page, "/Annots"))))
+            annots += ' ' + ref(number(link));
+    }
+    contents += ' ' + ref(shared + 4);
+    const QByteArrayView first = head(part.kids.front());
+    const qsizetype box = first.indexOf("/MediaBox");
+    const qsizetype boxEnd = box < 0 ? -1 : first.indexOf(']', box);
+    if (boxEnd < 0)
+        return QByteArray();
+    QByteArray dict;
+    for (const auto& [kind, entries] : resources) {
+        dict += kind + " <<\n";
+        for (const auto& [name, value] : entries)
+            dict += name + ' ' + value + '\n';
+        dict += ">>\n";
+    }
+    return "\n<<\n/Type /Page\n/Parent 3 0 R\n/Contents [" + contents + " ]\n/Resources <<\n" +
+           dict + ">>\n/Annots [" + annots + " ]\n" +
+           first.sliced(box, boxEnd + 1 - box).toByteArray() + "\n>>";
+}
+
+// What goes between the layers: before the first, between two, around the unread one,
+// after the last.
+const std::array<QByteArrayView, 5> LayerSeams = {
+    "q\n", "Q\nq\n", "/Span << /ActualText () >> BDC\n", "EMC\n", "Q\n"};
+
 } // namespace
 
 QByteArray PdfTextString(const QString& s) {
@@ -220,7 +313,8 @@ QByteArray PdfTextString(const QString& s) {
     return hex + '>';
 }
 
-QByteArray JoinPdfs(const std::vector<QByteArray>& parts, const PdfDocumentInfo& info) {
+QByteArray JoinPdfs(const std::vector<QByteArray>& parts, const PdfDocumentInfo& info,
+                    const std::map<size_t, PdfLayers>& layered) {
     std::vector<PdfPart> read(parts.size());
     for (size_t k = 0; k < parts.size(); ++k)
         if (!ReadPart(parts[k], read[k]))
@@ -251,9 +345,20 @@ QByteArray JoinPdfs(const std::vector<QByteArray>& parts, const PdfDocumentInfo&
             }
         }
         renumber[k][part.pages] = PagesObject;
+        if (layered.count(k)) {
+            // One page stands for all of them, its resources and links written into it.
+            for (size_t i = 0; i < part.kids.size(); ++i) {
+                const QByteArrayView page = part.objects.at(part.kids[i]).head;
+                skip[k][ReferenceAfter(page, "/Resources")] = true;
+                skip[k][ReferenceAfter(page, "/Annots")] = true;
+                if (i > 0)
+                    skip[k][part.kids[i]] = true;
+            }
+        }
         base += part.objects.rbegin()->first;
     }
-    const int size = base + 1;
+    const int seams = base + 1; // the streams between layers, when there are layers
+    const int size = seams + (layered.empty() ? 0 : int(LayerSeams.size()));
 
     QByteArray out = "%PDF-1.4\n%\xe2\xe3\xcf\xd3\n";
     std::vector<qsizetype> offsets(size_t(size), 0);
@@ -276,6 +381,8 @@ QByteArray JoinPdfs(const std::vector<QByteArray>& parts, const PdfDocumentInfo&
         for (int kid : read[k].kids) {
             kids += ' ' + QByteArray::number(renumber[k].value(kid)) + " 0 R";
             ++pageCount;
+            if (layered.count(k))
+                break;
         }
     write(PagesObject,
           "\n<<\n/Type /Pages\n/Kids [" + kids + " ]\n/Count " + QByteArray::number(pageCount) +
@@ -283,9 +390,18 @@ QByteArray JoinPdfs(const std::vector<QByteArray>& parts, const PdfDocumentInfo&
           {});
     for (size_t k = 0; k < read.size(); ++k) {
         const QHash<int, int>& map = renumber[k];
+        const auto layers = layered.find(k);
         for (const auto& [number, obj] : read[k].objects) {
             if (skip[k].value(number))
                 continue;
+            if (layers != layered.end() && number == read[k].kids.front()) {
+                const QByteArray page = LayeredPage(
+                    read[k], layers->second, [&](int n) { return map.value(n, 0); }, seams);
+                if (page.isEmpty())
+                    return QByteArray();
+                write(map.value(number), page, {});
+                continue;
+            }
             // A reference to an object the part lacks stays dangling, as it was.
             write(
                 map.value(number),
@@ -293,6 +409,9 @@ QByteArray JoinPdfs(const std::vector<QByteArray>& parts, const PdfDocumentInfo&
                 obj.body);
         }
     }
+
+    for (size_t i = 0; !layered.empty() && i < LayerSeams.size(); ++i)
+        write(seams + int(i), StreamObject(LayerSeams[i]), {});
 
     const qsizetype xref = out.size();
     out += "xref\n0 " + QByteArray::number(size) + '\n';

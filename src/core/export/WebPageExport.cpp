@@ -18,50 +18,94 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <future>
+
 namespace zentor {
+
+void AppendBase64(QByteArray& out, QByteArrayView bytes) {
+    static constexpr char Digits[] =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    const qsizetype start = out.size();
+    out.resize(start + (bytes.size() + 2) / 3 * 4);
+    char* o = out.data() + start;
+    const auto* b = reinterpret_cast<const uchar*>(bytes.data());
+    const qsizetype whole = bytes.size() / 3 * 3;
+    for (qsizetype i = 0; i < whole; i += 3, o += 4) {
+        const uint v = uint(b[i]) << 16 | uint(b[i + 1]) << 8 | b[i + 2];
+        o[0] = Digits[v >> 18];
+        o[1] = Digits[(v >> 12) & 63];
+        o[2] = Digits[(v >> 6) & 63];
+        o[3] = Digits[v & 63];
+    }
+    if (const qsizetype rest = bytes.size() - whole) {
+        const uint v = uint(b[whole]) << 16 | (rest == 2 ? uint(b[whole + 1]) << 8 : 0u);
+        o[0] = Digits[v >> 18];
+        o[1] = Digits[(v >> 12) & 63];
+        o[2] = rest == 2 ? Digits[(v >> 6) & 63] : '=';
+        o[3] = '=';
+    }
+}
+
 namespace {
 
 constexpr int PageQuality = 90;
 
 // Pictures and music go into the page as data URIs. Megabytes of them would cost more to
-// pass through the JSON writer than to draw the pages, so the JSON carries a stand-in for
-// each, put in place at the end.
+// pass through the JSON writer, and to copy from one buffer into the next, than to draw the
+// pages: the JSON carries a stand-in for each, and the page is written once, each URI
+// encoded straight into its place.
 class DataUris {
 public:
     QString add(const char* mime, const QByteArray& bytes) {
-        uris_.push_back("data:" + QByteArray(mime) + ";base64," + bytes.toBase64());
+        uris_.push_back({mime, bytes});
         return Mark + QString::number(uris_.size() - 1);
     }
-    // `json` with every stand-in replaced by its URI.
-    QByteArray fill(const QByteArray& json) const {
-        static const QByteArray written = "\"\\u0001uri"; // how the JSON writer escapes Mark
-        qsizetype size = json.size();
-        for (const QByteArray& u : uris_)
-            size += u.size();
+
+    // `page` with `json` in place of `mark`, every stand-in in it replaced by its URI.
+    QByteArray write(const QByteArray& page, QByteArrayView mark, const QByteArray& json) const {
+        const qsizetype at = page.indexOf(mark);
+        if (at < 0)
+            return page;
+        qsizetype size = page.size() + json.size();
+        for (const Uri& u : uris_)
+            size +=
+                qsizetype(sizeof("data:;base64,")) + qstrlen(u.mime) + (u.bytes.size() + 2) / 3 * 4;
         QByteArray out;
         out.reserve(size);
+        out += QByteArrayView(page).first(at);
         qsizetype from = 0;
-        for (qsizetype at; (at = json.indexOf(written, from)) >= 0;) {
-            qsizetype end = at + written.size();
+        for (qsizetype found; (found = json.indexOf(Written, from)) >= 0;) {
+            qsizetype end = found + Written.size();
             size_t index = 0;
             while (end < json.size() && json[end] >= '0' && json[end] <= '9')
                 index = index * 10 + size_t(json[end++] - '0');
             if (end >= json.size() || json[end] != '"' || index >= uris_.size()) {
-                out += json.mid(from, end - from);
+                out += QByteArrayView(json).sliced(from, end - from);
                 from = end;
                 continue;
             }
-            out += json.mid(from, at - from);
-            out += '"' + uris_[index] + '"';
+            out += QByteArrayView(json).sliced(from, found - from);
+            out += "\"data:";
+            out += uris_[index].mime;
+            out += ";base64,";
+            AppendBase64(out, uris_[index].bytes);
+            out += '"';
             from = end + 1;
         }
-        out += json.mid(from);
+        out += QByteArrayView(json).sliced(from);
+        out += QByteArrayView(page).sliced(at + mark.size());
         return out;
     }
 
 private:
+    struct Uri {
+        const char* mime;
+        QByteArray bytes;
+    };
+    static constexpr QByteArrayView Written = "\"\\u0001uri"; // how the JSON writer escapes Mark
     static inline const QString Mark = QStringLiteral("\u0001uri");
-    std::vector<QByteArray> uris_;
+
+    std::vector<Uri> uris_;
 };
 
 QJsonObject Box(int left, int top, int width, int height) {
@@ -131,7 +175,8 @@ QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg, Dat
                        {"texts", texts}};
 }
 
-QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, DataUris& uris) {
+QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, const QByteArray& jpeg,
+                      DataUris& uris) {
     const QSize frame = pictures.frame();
     // The contacts are painted on the home picture as the players paint them; over them
     // lie their words as text and their links, where the players take clicks.
@@ -153,12 +198,12 @@ QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, DataUri
                   QLatin1String(HomeCaptionFont), HomeCaptionPoints, 0, 1, 0);
     if (!caption.isEmpty())
         texts.append(caption);
-    const QImage home = pictures.picture(show::HomePicture);
     return QJsonObject{
         {"name", PersonName(doc)},
-        {"picture", uris.add("image/jpeg", EncodeJpeg(home, PageQuality))},
+        {"picture", uris.add("image/jpeg", jpeg)},
         {"texts", texts},
-        {"contacts", QJsonObject{{"px", pictures.contacts().FontPixelSize}, {"lines", lines}}}};
+        {"contacts",
+         QJsonObject{{"px", pictures.contacts().FontPoints * 96.0 / 72.0}, {"lines", lines}}}};
 }
 
 } // namespace
@@ -173,7 +218,13 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     QString error;
     if (!DocumentPackage(doc, ctx, res, package, warnings, error))
         return QByteArray();
-    const ShowPictures pictures(package, res, DefaultHomeBackground(ctx));
+    const ShowPictures pictures(package, res, DefaultHomeBackground(ctx),
+                                ShowPictures::Pages::OnlyJudged);
+
+    // The home picture is painted and compressed while the pages' layers are laid out.
+    std::future<QByteArray> home = std::async(std::launch::async, [&pictures] {
+        return EncodeJpeg(pictures.picture(show::HomePicture), PageQuality);
+    });
 
     QJsonObject show = WebShowNumbers(doc, pictures.showOrder());
     show.insert("title", PersonName(doc));
@@ -187,7 +238,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     }
     if (!GoOn(progress, SlideShowTab + 1, SlideShowTab + 1))
         return QByteArray();
-    show.insert("home", HomeLayer(doc, pictures, uris));
+    show.insert("home", HomeLayer(doc, pictures, home.get(), uris));
     show.insert("pages", pages);
     const QByteArray music = package.blob(show::Package::MusicEntry);
     if (!music.isEmpty())
@@ -199,8 +250,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     data.replace("<", "\\u003c");
     QByteArray page = WebPageTemplate();
     page.replace("@TITLE@", PersonName(doc).toHtmlEscaped().toUtf8());
-    page.replace("@DATA@", uris.fill(data));
-    return page;
+    return uris.write(page, "@DATA@", data);
 }
 
 } // namespace zentor

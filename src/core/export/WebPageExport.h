@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 #include "model/Progress.h"
@@ -19,5 +20,9 @@ class ResImages;
 // cancelled (page n of 9, the home page last).
 QByteArray RenderWebPage(const Document& doc, const ResImages& res, const ProcessContext& ctx,
                          const Progress& progress = {});
+
+// Appends `bytes` in base64 to `out`: into the room already reserved there, when it was,
+// with no buffer of its own to copy from.
+void AppendBase64(QByteArray& out, QByteArrayView bytes);
 
 } // namespace zentor

@@ -26,27 +26,39 @@ template <int N> void Visit(FixedString<N>& field, const MediaVisitor& f) {
     });
 }
 
+// The one list of the fields that name files, for the readers and the writers alike.
+template <class Doc, class F> void EachMediaField(Doc& doc, F&& f) {
+    using K = MediaFieldKind;
+    f(doc.Header.BackPicture, MediaField{K::BackPicture});
+    f(doc.Header.BackMusic, MediaField{K::BackMusic});
+    f(doc.Profile.UserIcon, MediaField{K::UserIcon});
+    for (int tab = 1; tab <= SlideShowTab; ++tab)
+        f(doc.Tabs[size_t(tab)].Icon, MediaField{K::TabIcon, tab});
+    // The show page draws tab 1's picture; the profile and show records carry none.
+    for (int tab = 1; tab < SlideShowTab; ++tab)
+        f(doc.Tabs[size_t(tab)].Picture.FileName, MediaField{K::TabPicture, tab});
+    for (int slot = 1; slot <= MaxImages; ++slot)
+        if (inUse(doc.Images[size_t(slot)]))
+            f(doc.Images[size_t(slot)].FileName, MediaField{K::ObjectPicture, slot});
+}
+
 } // namespace
 
 void ForEachMediaField(Document& doc, const MediaVisitor& f) {
-    Visit(doc.Header.BackPicture, f);
-    Visit(doc.Header.BackMusic, f);
-    Visit(doc.Profile.UserIcon, f);
-    for (int tab = 1; tab <= SlideShowTab; ++tab)
-        Visit(doc.Tabs[size_t(tab)].Icon, f);
-    // The show page draws tab 1's picture; the profile and show records carry none.
-    for (int tab = 1; tab < SlideShowTab; ++tab)
-        Visit(doc.Tabs[size_t(tab)].Picture.FileName, f);
-    for (int slot = 1; slot <= MaxImages; ++slot)
-        if (inUse(doc.Images[size_t(slot)]))
-            Visit(doc.Images[size_t(slot)].FileName, f);
+    EachMediaField(doc, [&f](auto& field, const MediaField&) { Visit(field, f); });
+}
+
+void VisitMediaFields(const Document& doc, const MediaFieldReader& f) {
+    EachMediaField(doc, [&f](const auto& field, const MediaField& which) {
+        const QString stored = field.trimNull();
+        if (!stored.isEmpty())
+            f(stored, which);
+    });
 }
 
 QStringList MediaFiles(const Document& doc) {
     QStringList files;
-    // Only reads: the copy keeps the visitor from touching the caller's document.
-    Document copy = doc;
-    ForEachMediaField(copy, [&](const QString& stored, const auto&) {
+    VisitMediaFields(doc, [&](const QString& stored, const MediaField&) {
         const QString path = ResolvePath(doc.ScriptPath, stored);
         if (!files.contains(path))
             files.append(path);

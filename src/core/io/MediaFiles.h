@@ -17,6 +17,17 @@ using MediaVisitor =
     std::function<void(const QString& stored, const std::function<bool(const QString&)>& store)>;
 void ForEachMediaField(Document& doc, const MediaVisitor& f);
 
+// Which field a path comes from.
+enum class MediaFieldKind { BackPicture, BackMusic, UserIcon, TabIcon, TabPicture, ObjectPicture };
+struct MediaField {
+    MediaFieldKind kind;
+    int index = 0; // the tab of a tab icon or picture, the slot of an object's picture
+};
+
+// The same fields in the same order, only read, each with which field it is.
+using MediaFieldReader = std::function<void(const QString& stored, const MediaField& field)>;
+void VisitMediaFields(const Document& doc, const MediaFieldReader& f);
+
 // The files the document uses, resolved against the project's folder, each once, in
 // document order.
 QStringList MediaFiles(const Document& doc);

@@ -1,9 +1,11 @@
 #include "render/HomePage.h"
 
+#include "model/CodePage.h"
 #include "model/DefaultDocument.h"
 #include "render/PictureCache.h"
 #include "render/ResImages.h"
 #include "render/TextDraw.h"
+#include "render/TextLayout.h"
 #include "show/Ring.h"
 
 #include <QPainter>
@@ -14,6 +16,29 @@ namespace {
 QRect Centred(QSize frame, int side) {
     return QRect(show::RoundHalfEven((frame.width() - side) / 2.0),
                  show::RoundHalfEven((frame.height() - side) / 2.0), side, side);
+}
+
+constexpr int UnderlineStyle = 4;
+
+// The text, or as much of it as fits one line of `width` followed by an ellipsis, as the
+// layout breaks lines.
+QString OneLine(const QString& text, double width, const QString& font, int points, int style) {
+    const auto fits = [&](const QString& s) {
+        return LayoutTextBox(s, 0, 0, width, 0, font, points, style, 1, 0).linesTotal <= 1;
+    };
+    if (fits(text))
+        return text;
+    const QString ellipsis(QChar(0x2026));
+    qsizetype kept = 0; // fits with the ellipsis
+    qsizetype over = text.size();
+    while (over - kept > 1) {
+        const qsizetype mid = (kept + over) / 2;
+        (fits(text.left(mid) + ellipsis) ? kept : over) = mid;
+    }
+    QString cut = text.left(kept);
+    while (cut.endsWith(QLatin1Char(' ')))
+        cut.chop(1);
+    return cut + ellipsis;
 }
 
 } // namespace
@@ -39,6 +64,19 @@ IconRectTable PaintHomePage(QPainter& p, QSize frame, const HomePictures& pictur
     DrawStretched(p, res.image(ResBorder), Centred(frame, 144));
     DrawStretched(p, pictures.userIcon, Centred(frame, 128));
     return rects;
+}
+
+void PaintHomeContacts(QPainter& p, const show::HomeLayout& layout) {
+    const QString font = QLatin1String(HomeCaptionFont);
+    for (const show::HomeLine& line : layout.Lines) {
+        const int style = line.Link.empty() ? 0 : UnderlineStyle; // links look like links
+        const show::IconRect& r = line.Rect;
+        const QString text = OneLine(CodePage::active().decode(QByteArrayView(
+                                         line.Text.data(), qsizetype(line.Text.size()))),
+                                     r.Right - r.Left, font, layout.FontPoints, style);
+        DrawFontText(p, text, r.Left, r.Top, r.Right - r.Left, r.Bottom - r.Top, font,
+                     layout.FontPoints, style, 1, 1, 0xFFFFFFFFu, 1, int(TextHint::AntiAlias), 1);
+    }
 }
 
 } // namespace zentor

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/IconRing.h"
+#include "show/HomeLayout.h"
 
 #include <QImage>
 #include <QRect>
@@ -40,5 +41,9 @@ inline constexpr int HomeCaptionPoints = 12;
 // rectangles. The editor's profile page and the player's home page are this one function.
 IconRectTable PaintHomePage(QPainter& p, QSize frame, const HomePictures& pictures,
                             const QString& caption, const ResImages& res);
+
+// Paints the contact lines where `layout` puts them: each centred on its line like the
+// caption, links underlined, cut with an ellipsis where it does not fit.
+void PaintHomeContacts(QPainter& p, const show::HomeLayout& layout);
 
 } // namespace zentor

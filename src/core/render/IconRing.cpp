@@ -1,18 +1,13 @@
 #include "render/IconRing.h"
 
 #include "render/PictureCache.h"
-#include "show/Ring.h"
 
 #include <QPainter>
 
 namespace zentor {
 
 IconRectTable IconRects(QSize frame) {
-    const show::IconRectTable ring = show::RingRects(frame.width(), frame.height());
-    IconRectTable rects{};
-    for (size_t i = 0; i < rects.size(); ++i)
-        rects[i] = {ring[i].Left, ring[i].Top, ring[i].Right, ring[i].Bottom};
-    return rects;
+    return show::RingRects(frame.width(), frame.height());
 }
 
 IconRectTable GetCircle(QPainter& p, QSize frame, const std::array<QImage, 9>& icons) {

@@ -18,10 +18,15 @@ void DrawPageObjects(QPainter& p, const Document& doc, int tab, PictureCache* ca
         DrawPictureFile(p, ResolvePath(doc.ScriptPath, img.FileName.trimmed()),
                         BoxRect(img.Left, img.Top, img.Width, img.Height), cache);
     }
-    for (int i = 1; withTexts && i <= MaxTexts; ++i) {
+    if (withTexts)
+        DrawPageTexts(p, doc, tab, TextPasses::All);
+}
+
+void DrawPageTexts(QPainter& p, const Document& doc, int tab, TextPasses passes) {
+    for (int i = 1; i <= MaxTexts; ++i) {
         const TextElement& t = doc.Texts[size_t(i)];
         if (t.TabNo == tab)
-            DrawTextElement(p, t);
+            DrawTextElement(p, t, passes);
     }
 }
 

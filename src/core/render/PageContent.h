@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/TextDraw.h"
+
 class QPainter;
 
 namespace zentor {
@@ -13,5 +15,8 @@ class PictureCache;
 // `withTexts` only the pictures: what lies under the texts.
 void DrawPageObjects(QPainter& p, const Document& doc, int tab, PictureCache* cache,
                      bool withTexts = true);
+
+// Only the texts of the tab, in slot order, with the passes asked for.
+void DrawPageTexts(QPainter& p, const Document& doc, int tab, TextPasses passes);
 
 } // namespace zentor

@@ -27,6 +27,18 @@ namespace {
 struct GlyphFont {
     QRawFont laidOut; // the layout's font, to tell its runs from fallback fonts' runs
     QRawFont drawn;
+    // Outlines of `drawn`'s glyphs as a PDF's shadows ask for them: a page repeats a few
+    // dozen glyphs thousands of times, and each outline costs a pass of the font's hinter.
+    mutable QHash<quint32, QPainterPath> outlines;
+
+    QPainterPath outline(const QRawFont& font, quint32 glyph) const {
+        if (font != drawn)
+            return font.pathForGlyph(glyph);
+        auto it = outlines.constFind(glyph);
+        if (it == outlines.constEnd())
+            it = outlines.insert(glyph, drawn.pathForGlyph(glyph));
+        return *it;
+    }
 };
 thread_local QHash<QString, GlyphFont> glyphFonts;
 
@@ -58,7 +70,7 @@ const GlyphFont& GlyphFontFor(const QString& family, int style, int size, int hi
     QRawFont raw = QRawFont::fromFont(shapes);
     if (exact != whole)
         raw.setPixelSize(exact);
-    return *glyphFonts.insert(key, {QRawFont::fromFont(layoutFont), raw});
+    return *glyphFonts.insert(key, {QRawFont::fromFont(layoutFont), raw, {}});
 }
 
 } // namespace
@@ -129,7 +141,7 @@ std::unique_ptr<QTextLayout> LinkedLayout(const ShapedTextBox& shaped, const QSt
 void DrawLinkedText(QPainter& g, const QString& text, double left, double top, double width,
                     double height, const QString& fontName, int size, int style, int align,
                     int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset,
-                    const QString& href) {
+                    const QString& href, TextPasses passes) {
     const ShapedTextBox shaped =
         ShapeTextBox(text, left, top, width, height, fontName, size, style, align, lineAlign);
     if (!shaped.layout)
@@ -204,7 +216,7 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
     g.save();
     g.setRenderHint(QPainter::TextAntialiasing, AntialiasedFor(hint));
     QPainterPath outlinePath; // the shadow's glyphs, made once for both passes
-    auto pass = [&](uint32_t argb, double ox, double oy, bool outlines) {
+    auto pass = [&](uint32_t argb, double ox, double oy, bool outlines, bool letters) {
         g.setPen(QColor::fromRgba(argb));
         if (needClip) {
             QRectF clip(x + ox, y + oy, wrap ? w : 2e7, clipY ? h : 2e7);
@@ -215,7 +227,7 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
             g.save();
             g.setClipRect(clip, Qt::IntersectClip);
         }
-        if (linked && !outlines) {
+        if (linked && letters) {
             const QTransform base = g.transform();
             QTransform t = base;
             t.translate(shaped.origin.x() + ox, shaped.origin.y() + oy);
@@ -230,7 +242,7 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
                     const QList<quint32> glyphs = run.glyphIndexes();
                     const QList<QPointF> at = run.positions();
                     for (qsizetype i = 0; i < glyphs.size() && i < at.size(); ++i)
-                        outlinePath.addPath(font.pathForGlyph(glyphs[i]).translated(at[i]));
+                        outlinePath.addPath(fonts.outline(font, glyphs[i]).translated(at[i]));
                 }
             }
             g.fillPath(outlinePath.translated(ox, oy), g.pen().color());
@@ -243,15 +255,16 @@ void DrawLinkedText(QPainter& g, const QString& text, double left, double top, d
         if (needClip)
             g.restore();
     };
-    if (shadow != 0) {
+    if (shadow != 0 && passes != TextPasses::LettersOnly) {
         const uint32_t shadowColor = ShadowColorFor(color);
-        pass(shadowColor, shadowOffset, shadowOffset, pdf);
+        pass(shadowColor, shadowOffset, shadowOffset, pdf && passes == TextPasses::All, false);
         // Once more unshifted: it thickens the glyph edges under the text. Vector glyphs have
         // no soft edges to thicken, so a PDF is spared a second copy of every outline.
         if (!pdf)
-            pass(shadowColor, 0, 0, false);
+            pass(shadowColor, 0, 0, false, false);
     }
-    pass(color, 0, 0, false);
+    if (passes != TextPasses::ShadowOnly)
+        pass(color, 0, 0, false, true);
     g.restore();
 }
 
@@ -267,10 +280,10 @@ static QString ShownText(const FixedString<4096>& field) {
     return CodePage::active().decode(QByteArrayView(begin, len));
 }
 
-void DrawTextElement(QPainter& g, const TextElement& t) {
-    DrawFontText(g, ShownText(t.Text), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
-                 t.FontSize, t.FontStyle, t.Align, t.LineAlign, uint32_t(t.FontColor), t.FontShadow,
-                 t.TextHint, 1);
+void DrawTextElement(QPainter& g, const TextElement& t, TextPasses passes) {
+    DrawLinkedText(g, ShownText(t.Text), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
+                   t.FontSize, t.FontStyle, t.Align, t.LineAlign, uint32_t(t.FontColor),
+                   t.FontShadow, t.TextHint, 1, QString(), passes);
 }
 
 } // namespace zentor

@@ -40,14 +40,19 @@ void DrawFontText(QPainter& g, const QString& text, double left, double top, dou
                   double height, const QString& fontName, int size, int style, int align,
                   int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset);
 
+// Which passes of a text are drawn. A PDF page lays its texts' shadows and letters apart, so
+// that its shadows can be glyphs hidden from readers instead of outlines (see PdfPages).
+enum class TextPasses { All, ShadowOnly, LettersOnly };
+
 // DrawFontText whose text, when `href` is not empty, is a link to it where the surface
-// keeps links (a PDF).
+// keeps links (a PDF). In a PDF a shadow drawn with its letters is glyph outlines, so that
+// readers find each word once; drawn alone it is glyphs.
 void DrawLinkedText(QPainter& g, const QString& text, double left, double top, double width,
                     double height, const QString& fontName, int size, int style, int align,
                     int lineAlign, uint32_t color, int shadow, int hint, int shadowOffset,
-                    const QString& href);
+                    const QString& href, TextPasses passes = TextPasses::All);
 
 // A text object drawn as every page shows it (shadow offset 1).
-void DrawTextElement(QPainter& g, const TextElement& t);
+void DrawTextElement(QPainter& g, const TextElement& t, TextPasses passes = TextPasses::All);
 
 } // namespace zentor

@@ -1,6 +1,5 @@
 #include "show/ShowPictures.h"
 
-#include "model/CodePage.h"
 #include "model/DefaultDocument.h"
 #include "render/HomePage.h"
 #include "render/PageCompositor.h"
@@ -8,39 +7,16 @@
 #include "render/PictureLoader.h"
 #include "show/ShowFrame.h"
 
-#include <QFont>
-#include <QFontMetrics>
 #include <QPainter>
 
 #include <algorithm>
+#include <future>
 
 namespace zentor {
 namespace {
 
-QString Decoded(const std::string& bytes) {
-    return CodePage::active().decode(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
-}
-
 QRect ToRect(const show::IconRect& r) {
     return QRect(r.Left, r.Top, r.Right - r.Left, r.Bottom - r.Top);
-}
-
-// The contact lines: white over a dark shadow like the caption, links underlined, each
-// cut with an ellipsis where it does not fit its line.
-void PaintContacts(QPainter& p, const show::HomeLayout& layout) {
-    QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(layout.FontPixelSize);
-    for (const show::HomeLine& line : layout.Lines) {
-        font.setUnderline(!line.Link.empty());
-        p.setFont(font);
-        const QRect box = ToRect(line.Rect);
-        const QString text =
-            QFontMetrics(font).elidedText(Decoded(line.Text), Qt::ElideRight, box.width());
-        p.setPen(QColor(0, 0, 0, 160));
-        p.drawText(box.translated(1, 1), Qt::AlignCenter, text);
-        p.setPen(Qt::white);
-        p.drawText(box, Qt::AlignCenter, text);
-    }
 }
 
 quint64 CacheKey(int picture, int hover, QSize size) {
@@ -54,21 +30,26 @@ QSize SaneFrame(const show::ShowHeader& h) {
     return QSize(f.Width, f.Height);
 }
 
-// A page that holds nothing comes out one flat colour. A quarter of the size is decoded
-// (JPEG scales while decoding), enough to keep the smallest text. A page that cannot be
-// decoded is not called empty: the show keeps its place.
-bool IsEmptyPage(const QByteArray& blob, QSize frame) {
-    const QImage small = LoadPictureData(blob, (frame / 4).expandedTo(QSize(1, 1)))
-                             .convertToFormat(QImage::Format_RGB32);
-    return !small.isNull() &&
-           show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()), small.width(),
+// A page that holds nothing comes out one flat colour. It is judged at a quarter of the
+// frame, as every player judges it, which also smooths away the JPEG's noise.
+QSize Quarter(QSize frame) {
+    return (frame / 4).expandedTo(QSize(1, 1));
+}
+
+bool IsEmptyPage(const QImage& page, QSize frame) {
+    const QImage small =
+        (page.size() == Quarter(frame)
+             ? page
+             : page.scaled(Quarter(frame), Qt::IgnoreAspectRatio, Qt::SmoothTransformation))
+            .convertToFormat(QImage::Format_RGB32);
+    return show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()), small.width(),
                                small.height(), int(small.bytesPerLine() / 4));
 }
 
 } // namespace
 
 ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
-                           const QByteArray& defaultBackground)
+                           const QByteArray& defaultBackground, Pages pages)
     : res_(res), frame_(SaneFrame(package.Info.Header)), defaultBackground_(defaultBackground) {
     const uint32_t c = uint32_t(package.Header.BackColor); // 0x00BBGGRR
     backColor_ = qRgb(int(c & 0xFF), int((c >> 8) & 0xFF), int((c >> 16) & 0xFF));
@@ -80,44 +61,65 @@ ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
     person_ = package.Profile.FirstName.text().trimmed() + QLatin1Char(' ') +
               package.Profile.LastName.text().trimmed();
     contacts_ = show::LayoutHome(package.Info.Profile, frame_.width(), frame_.height());
-    std::array<bool, Package::EntryCount> empty{};
+    // Every page is decoded once, side by side, and kept for showing; a page that cannot be
+    // decoded is not called empty: the show keeps its place.
+    std::vector<std::future<std::optional<QImage>>> decoding;
     for (int entry : show::PageOrder)
-        empty[size_t(entry)] = IsEmptyPage(blobs_[size_t(entry)], frame_);
+        decoding.push_back(
+            std::async(std::launch::async, [this, entry] { return loadPage(entry); }));
+    std::array<bool, Package::EntryCount> empty{};
+    for (size_t i = 0; i < decoding.size(); ++i) {
+        const int entry = show::PageOrder[i];
+        const std::optional<QImage> page = decoding[i].get();
+        empty[size_t(entry)] = page && IsEmptyPage(*page, frame_);
+        if (pages == Pages::Shown)
+            cache_.insert(CacheKey(entry, 0, frame_), page ? *page : backPage());
+    }
     order_ = show::ShowOrder(empty);
 }
 
-QImage ShowPictures::paintHome(int hoverIcon) const {
-    // A carried picture that cannot be decoded gives way to the built-in one.
-    const auto carried = [this](int entry, QSize size, const QImage& builtIn) {
-        const QImage img = LoadPictureData(blobs_[size_t(entry)], size);
-        return img.isNull() ? builtIn : img;
-    };
-    HomePictures pics;
-    pics.background =
-        carried(Package::BackPictureEntry, frame_, LoadPictureData(defaultBackground_, frame_));
-    pics.icons[1] = res_.image(1);
-    for (int tab = Package::FirstTabIconEntry; tab <= Package::LastTabIconEntry; ++tab)
-        pics.icons[size_t(tab)] = carried(tab, QSize(80, 80), res_.image(tab));
-    pics.userIcon = carried(Package::UserIconEntry, QSize(128, 128), res_.image(ResLogo));
+const HomePictures& ShowPictures::homePictures() const {
+    std::call_once(homeDecoded_, [this] {
+        // A carried picture that cannot be decoded gives way to the built-in one.
+        const auto carried = [this](int entry, QSize size, const QImage& builtIn) {
+            const QImage img = LoadPictureData(blobs_[size_t(entry)], size);
+            return img.isNull() ? builtIn : img;
+        };
+        home_.background =
+            carried(Package::BackPictureEntry, frame_, LoadPictureData(defaultBackground_, frame_));
+        home_.icons[1] = res_.image(1);
+        for (int tab = Package::FirstTabIconEntry; tab <= Package::LastTabIconEntry; ++tab)
+            home_.icons[size_t(tab)] = carried(tab, QSize(80, 80), res_.image(tab));
+        home_.userIcon = carried(Package::UserIconEntry, QSize(128, 128), res_.image(ResLogo));
+    });
+    return home_;
+}
 
+QImage ShowPictures::paintHome(int hoverIcon) const {
     QImage canvas(frame_, QImage::Format_ARGB32_Premultiplied);
     canvas.fill(0xFFFFFFFFu);
     QPainter p(&canvas);
-    PaintHomePage(p, frame_, pics, HomeCaption(tabNames_, person_, hoverIcon), res_);
-    PaintContacts(p, contacts_);
+    PaintHomePage(p, frame_, homePictures(), HomeCaption(tabNames_, person_, hoverIcon), res_);
+    PaintHomeContacts(p, contacts_);
     p.end();
     return canvas.convertToFormat(QImage::Format_RGB32);
 }
 
-QImage ShowPictures::decodePage(int entry) const {
-    QImage img = LoadPictureData(blobs_[size_t(entry)], frame_);
-    if (img.isNull()) {
-        img = QImage(frame_, QImage::Format_RGB32);
-        img.fill(backColor_);
-    } else if (img.size() != frame_) {
-        img = img.scaled(frame_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
+std::optional<QImage> ShowPictures::loadPage(int entry, QSize size) const {
+    if (size.isEmpty())
+        size = frame_;
+    QImage img = LoadPictureData(blobs_[size_t(entry)], size);
+    if (img.isNull())
+        return std::nullopt;
+    if (img.size() != size)
+        img = img.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return img.convertToFormat(QImage::Format_RGB32);
+}
+
+QImage ShowPictures::backPage() const {
+    QImage img(frame_, QImage::Format_RGB32);
+    img.fill(backColor_);
+    return img;
 }
 
 QImage ShowPictures::picture(int picture, int hoverIcon) const {
@@ -138,7 +140,7 @@ QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
             return *it;
     }
     const QImage img = size == frame_
-                           ? (home ? paintHome(hover) : decodePage(picture))
+                           ? (home ? paintHome(hover) : loadPage(picture).value_or(backPage()))
                            : scaled(picture, hover, frame_)
                                  .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     std::lock_guard lock(mutex_);
@@ -158,9 +160,7 @@ QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
 }
 
 QRect FrameTarget(QSize frame, QSize size) {
-    const QSize fitted = frame.scaled(size, Qt::KeepAspectRatio);
-    return QRect(QPoint((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2),
-                 fitted);
+    return ToRect(show::FitFrame({frame.width(), frame.height()}, size.width(), size.height()));
 }
 
 QImage PaintShowFrame(const ShowPictures& pictures, const show::ScreenState& state, QSize size,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "generate/PackageReader.h"
+#include "render/HomePage.h"
 #include "render/ResImages.h"
 #include "show/HomeLayout.h"
 #include "show/ShowModel.h"
@@ -14,19 +15,25 @@
 
 #include <array>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace zentor {
 
-// What a player shows of one package, decoded once and kept: the page pictures, the home
-// page painted for each hovered ring icon, and both scaled to the sizes asked for. Safe to
-// share between threads (one lock around the caches).
+// What a player shows of one package, decoded once and kept: the page pictures (all decoded
+// on construction), the home page painted for each hovered ring icon from pictures decoded
+// once, and both scaled to the sizes asked for. Safe to share between threads.
 class ShowPictures {
 public:
+    // What the pages are decoded for: to be shown (each decoded once, at frame size, and
+    // kept), or only to be judged empty or not (decoded at the quarter the judging looks at;
+    // the web page shows the package's own bytes).
+    enum class Pages { Shown, OnlyJudged };
+
     // `defaultBackground` is the encoded picture the home page shows when the package
     // carries no background of its own (or one that cannot be decoded).
     ShowPictures(const PackageContents& package, const ResImages& res,
-                 const QByteArray& defaultBackground);
+                 const QByteArray& defaultBackground, Pages pages = Pages::Shown);
 
     // The package's frame (800 x 600 when its header's is not a sane one).
     QSize frame() const { return frame_; }
@@ -44,7 +51,12 @@ public:
 
 private:
     QImage paintHome(int hoverIcon) const;
-    QImage decodePage(int entry) const;
+    // The background and icons the home page is painted from, decoded on first use.
+    const HomePictures& homePictures() const;
+    // A page entry decoded at frame size (or `size`); nothing when it cannot be decoded.
+    std::optional<QImage> loadPage(int entry, QSize size = QSize()) const;
+    // What stands for a page that cannot be decoded: the back colour.
+    QImage backPage() const;
 
     const ResImages& res_;
     QSize frame_;
@@ -56,6 +68,8 @@ private:
     show::HomeLayout contacts_;
     std::vector<int> order_;
 
+    mutable std::once_flag homeDecoded_;
+    mutable HomePictures home_;
     mutable std::mutex mutex_;
     mutable QHash<quint64, QImage> cache_; // (picture, hover, size) -> image
 };

@@ -10,10 +10,6 @@
 
 namespace zentor {
 
-QString FindingCount(size_t n) {
-    return n == 1 ? QStringLiteral("1 finding") : QStringLiteral("%1 findings").arg(n);
-}
-
 CheckPanel::CheckPanel(QWidget* parent) : QDockWidget(QStringLiteral("Check Résumé"), parent) {
     setObjectName(QStringLiteral("FrmCheck"));
     auto* body = new QWidget(this);
@@ -71,7 +67,7 @@ void CheckPanel::showFindings(const Document& doc, std::vector<Finding> findings
     }
     for (int c = 0; c < 3; ++c)
         list_->resizeColumnToContents(c);
-    summary_->setText(findings_.empty() ? QStringLiteral("Nothing to fix.")
+    summary_->setText(findings_.empty() ? NothingToFix()
                                         : FindingCount(findings_.size()) +
                                               QStringLiteral(": choose one to go to it."));
 }

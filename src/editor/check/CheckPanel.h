@@ -36,7 +36,4 @@ private:
     std::vector<Finding> findings_;
 };
 
-// "1 finding" / "3 findings".
-QString FindingCount(size_t n);
-
 } // namespace zentor

@@ -15,7 +15,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QPlainTextEdit>
-#include <QTimer>
+#include <QThread>
 
 namespace zentor {
 
@@ -99,19 +99,27 @@ void CheckUi::openPanel() {
 }
 
 void CheckUi::reportAfterOutput() {
-    QTimer::singleShot(0, this, [this] {
-        const size_t n = CheckDocument(editor_.document(), options()).size();
-        if (n == 0)
+    auto doc = std::make_shared<const Document>(editor_.document());
+    auto speller = spelling_->sharedSpeller();
+    CheckOptions o = options();
+    auto remaining = std::make_shared<size_t>(0);
+    QThread* worker = QThread::create(
+        [doc, speller, o, remaining] { *remaining = CheckDocument(*doc, o).size(); });
+    worker->setParent(this);
+    // Queued to the window's thread, so the command has set its own status by then.
+    connect(worker, &QThread::finished, this, [this, remaining] {
+        if (*remaining == 0)
             return;
-        const QString remain =
-            FindingCount(n) + QStringLiteral(" remain: Edit > Check Résumé... (F7) lists them");
-        // Said beside what the command itself reported (the file written), not instead.
         const auto* status = window_->findChild<QLabel*>(QStringLiteral("StatusPanel1"));
-        const QString said = status ? status->text() : QString();
-        view_.setStatusText(said.isEmpty() || said == QLatin1String("Ready")
-                                ? remain
-                                : said + QStringLiteral("; ") + remain);
+        view_.setStatusText(StatusAfterOutput(status ? status->text() : QString(), *remaining));
     });
+    connect(worker, &QThread::finished, worker, &QObject::deleteLater);
+    worker->start(QThread::LowPriority);
+}
+
+CheckUi::~CheckUi() {
+    for (QThread* worker : findChildren<QThread*>(Qt::FindDirectChildrenOnly))
+        worker->wait();
 }
 
 } // namespace zentor

@@ -23,11 +23,13 @@ class CheckUi : public QObject {
 public:
     CheckUi(QMainWindow* window, EditorView& view, Editor& editor, PictureCache& cache,
             QMenu* editMenu);
+    // Waits for a check still running: it reads the window's decoded pictures.
+    ~CheckUi() override;
 
     // Runs the check and lists the findings in the panel, which is shown.
     void openPanel();
     // After a package or an export was written: the status bar says how many findings remain
-    // (once the command's own status is set).
+    // once they are counted, on a worker with a copy of the document so the window stays live.
     void reportAfterOutput();
 
     SpellService& spelling() { return *spelling_; }

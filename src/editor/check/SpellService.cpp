@@ -2,6 +2,7 @@
 
 #include "check/SpellSettings.h"
 #include "check/WordScan.h"
+#include "model/Document.h"
 
 namespace zentor {
 
@@ -33,7 +34,16 @@ void SpellService::setLanguage(const QString& language) {
 std::vector<WordSpan> SpellService::misspelt(const QString& text) const {
     if (!speller_)
         return {};
-    return MisspeltWords(text, *speller_, ProfileWords(doc_));
+    return MisspeltWords(text, *speller_, profileWords());
+}
+
+// Taken again only when the profile changed: every key typed in a box asks for them.
+const QSet<QString>& SpellService::profileWords() const {
+    if (profileWordsOf_ != doc_.Profile) {
+        profileWords_ = ProfileWords(doc_);
+        profileWordsOf_ = doc_.Profile;
+    }
+    return profileWords_;
 }
 
 QStringList SpellService::suggestions(const QString& word) const {

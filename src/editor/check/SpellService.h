@@ -1,11 +1,13 @@
 #pragma once
 
 #include "check/SpellChecker.h"
+#include "model/Records.h"
 
 #include <QObject>
 #include <QSet>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace zentor {
@@ -23,6 +25,8 @@ public:
 
     // Null when the language has no dictionary (error() says so).
     const SpellChecker* speller() const { return speller_.get(); }
+    // The same, kept open for a check running on a worker while the language changes.
+    std::shared_ptr<const SpellChecker> sharedSpeller() const { return speller_; }
     QString error() const { return error_; }
     QString language() const { return language_; }
     void setLanguage(const QString& language);
@@ -40,12 +44,16 @@ signals:
 
 private:
     void open();
+    const QSet<QString>& profileWords() const;
 
     const Document& doc_;
     QString language_;
     QString error_;
-    std::unique_ptr<SpellChecker> speller_;
+    std::shared_ptr<SpellChecker> speller_;
     QStringList ignored_;
+    // The person's own words and the profile they were taken from.
+    mutable QSet<QString> profileWords_;
+    mutable std::optional<ProfileRecord> profileWordsOf_;
 };
 
 } // namespace zentor

@@ -127,8 +127,8 @@ void UnderlineSpelling(QPlainTextEdit* box, SpellService& spelling) {
 
 void UnderlineSpelling(QLineEdit* box, SpellService& spelling) {
     auto refresh = [box, &spelling] { UnderlineLine(box, spelling); };
+    // Only new words change the underlines: moving the cursor keeps them where they are.
     QObject::connect(box, &QLineEdit::textChanged, box, refresh);
-    QObject::connect(box, &QLineEdit::cursorPositionChanged, box, refresh);
     QObject::connect(&spelling, &SpellService::changed, box, refresh);
     box->setContextMenuPolicy(Qt::CustomContextMenu);
     QObject::connect(box, &QWidget::customContextMenuRequested, box, [box, &spelling](QPoint p) {
