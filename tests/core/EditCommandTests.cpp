@@ -117,20 +117,6 @@ TEST(EditCommands, NewAndOpenAskOnlyForAChangedDocumentAndNeverDropUnsavedWork) 
     }
 }
 
-TEST(EditCommands, OpeningOverALargerDocumentListsItsSurplusObjects) {
-    EditorFixture f;
-    ASSERT_TRUE(SaveScript(*f.box.newDocument(), f.box.path("small.qds")));
-    f.showTab(1);
-    for (int i = 0; i < 2; ++i)
-        f.editor.CommonModth(CmdInsertImage);
-    f.doc->Dirty = false;
-    f.prompter.expectFile(false, "Open QDV Script File", Filter, f.box.path("small.qds"));
-    f.editor.CommonModth(CmdOpen);
-    EXPECT_EQ(f.doc->ScriptPath, f.box.path("small.qds"));
-    EXPECT_EQ(f.view.rows.size(), 3); // page 1 still shows images 1 and 2
-    EXPECT_PROMPTS_DONE(f.prompter);
-}
-
 TEST(EditCommands, SaveAddsTheExtensionAndAsksBeforeOverwriting) {
     const struct {
         const char* what;

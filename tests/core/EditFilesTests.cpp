@@ -75,6 +75,15 @@ TEST(DropFiles, PicturesOnAContentPageAreOneStepAndElsewhereNothing) {
     f.editor.undo();
     EXPECT_EQ(SavedBytes(*f.doc), clean);
     EXPECT_FALSE(f.doc->Dirty);
+
+    // The first and last content pages take drops; a full table takes what it can.
+    for (int tab : {1, 7})
+        EXPECT_EQ(DropPictures(*f.doc, {a}, {400, 300}, tab).added.size(), 1) << tab;
+    for (int s = 3; s <= MaxImages; ++s)
+        PlaceImage(*f.doc, s, 3);
+    const DropResult full = DropPictures(*f.doc, {a, b}, {400, 300}, 3);
+    EXPECT_EQ(full.added.size(), 0);
+    EXPECT_TRUE(full.full);
 }
 
 TEST(DropFiles, ADroppedProjectOpensAfterTheChangedDocumentQuestion) {

@@ -58,6 +58,8 @@ TEST(EditGeometry, ResizeByHandleKeepsTheOppositeEdge) {
         {7, {700, 500, 50, 50}, 100, 100, {700, 500, 100, 100}, {700, 500, 100, 100}},
         // Left handle past the page's left: Left 0, the right edge kept.
         {1, {10, 50, 100, 100}, -30, 0, {0, 50, 110, 100}, {0, 50, 110, 100}},
+        // At the page's left border a right-edge handle still resizes.
+        {6, {0, 50, 100, 100}, 30, 0, {0, 50, 130, 100}, {0, 50, 130, 100}},
         // Middle handles move one axis only.
         {3, {100, 100, 50, 50}, 30, 10, {100, 110, 50, 40}, {100, 110, 50, 40}},
         {4, {100, 100, 50, 50}, 30, 25, {100, 100, 50, 75}, {100, 100, 50, 75}},

@@ -3,6 +3,7 @@
 #include "io/CollectMedia.h"
 #include "io/MediaFiles.h"
 #include "io/ScriptFile.h"
+#include "model/DefaultDocument.h"
 
 #include <QDir>
 #include <QUrl>
@@ -224,6 +225,11 @@ TEST(EditMedia, HelpOpensTheManualBesideTheProgramOrInstalled) {
                   c.opened ? QStringList{QUrl::fromLocalFile(f.box.path(c.opened)).toString()}
                            : QStringList());
     }
+    // The menu's other items: the home page and the About box.
+    EditorFixture f;
+    f.editor.aboutMenu(2);
+    f.editor.aboutMenu(6);
+    EXPECT_EQ(f.view.log, (QStringList{QString::fromLatin1(HomePage), "about"}));
 }
 
 TEST(EditMedia, InfoListsMissingFilesOnStderrAndStillSucceeds) {

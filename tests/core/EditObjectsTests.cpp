@@ -87,6 +87,8 @@ TEST(EditObjects, SelectByMousePrefersTextsThenHigherSlots) {
     }
     EXPECT_EQ(SelectByMouse(*d, l.map, 0, 155, 155), -1);
     EXPECT_EQ(SelectByMouse(*d, l.map, 8, 155, 155), -1);
+    EXPECT_EQ(SelectByMouse(*d, BuildObjectList(*d, 7).map, 7, 155, 155),
+              0); // the last content page
 }
 
 TEST(EditObjects, ZOrderMovesOnlyThePagesRecords) {
@@ -138,7 +140,9 @@ TEST(EditObjects, InsertUsesTheLowestFreeSlotOrTheTemplate) {
     EXPECT_EQ(d->Images[2].TabNo, 3);
     EXPECT_EQ(d->Images[2].Width, d->Images[0].Width);
     d->Images[1] = d->Images[0]; // deleted: its slot comes back first
+    d->Images[3].TabNo = -1;     // neither free nor in use: skipped
     EXPECT_EQ(InsertObject(*d, KindImage, 4), 1);
+    EXPECT_EQ(InsertObject(*d, KindImage, 4), 4);
     const int t = InsertObject(*d, KindText, 7);
     EXPECT_EQ(d->Texts[t].Name.text(), "text 1");
     EXPECT_EQ(d->Texts[t].Text, d->Texts[0].Text);
@@ -147,6 +151,12 @@ TEST(EditObjects, InsertUsesTheLowestFreeSlotOrTheTemplate) {
     EXPECT_EQ(InsertObject(*d, KindImage, 5), 0);
     EXPECT_EQ(d->Images[0].TabNo, 5);
     EXPECT_EQ(d->Images[0].Name.text(), "image 0");
+    // The last slot of each table is found when it is the only free one.
+    d->Images[MaxImages].TabNo = 0;
+    EXPECT_EQ(InsertObject(*d, KindImage, 2), MaxImages);
+    for (int s = 1; s < MaxTexts; ++s)
+        d->Texts[s].TabNo = 1;
+    EXPECT_EQ(InsertObject(*d, KindText, 2), MaxTexts);
 }
 
 struct DeleteCase {
@@ -196,6 +206,26 @@ TEST(EditObjects, DelObjectAsksAndOnlyYesChanges) {
             else
                 EXPECT_FALSE(c.changed(*before, *d)) << c.title;
         }
+    }
+    // The last slot of each table is deleted; a slot or page past the tables asks nothing.
+    const struct {
+        int kind, slot, tab;
+        const char* title; // nullptr: refused without a question
+    } edges[] = {
+        {KindImage, MaxImages, 1, "Delete Image"}, {KindText, MaxTexts, 1, "Delete Text"},
+        {KindImage, MaxImages + 1, 1, nullptr},    {KindImage, -1, 1, nullptr},
+        {KindText, MaxTexts + 1, 1, nullptr},      {KindText, -1, 1, nullptr},
+        {KindTab, 0, MaxTab + 1, nullptr},         {KindTab, 0, -1, nullptr},
+    };
+    for (const auto& e : edges) {
+        auto d = box.newDocument();
+        d->Images[MaxImages].Name = d->Texts[MaxTexts].Name = "last";
+        ScriptedPrompter p;
+        if (e.title)
+            p.expectAsk(e.title, "Are you sure to delete last?", Answer::Yes);
+        EXPECT_EQ(DelObject(*d, e.kind, e.slot, e.tab, p, box.ctx), e.title != nullptr)
+            << e.kind << " " << e.slot << " " << e.tab;
+        EXPECT_PROMPTS_DONE(p);
     }
 }
 

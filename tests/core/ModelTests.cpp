@@ -67,22 +67,6 @@ TEST(DefaultDocument, NewForgetsEveryObjectAndThePath) {
     EXPECT_EQ(GetArrNo(*doc, 2), 1);
 }
 
-TEST(TabMap, ArrNoFindsTheLowestExactlyFreeSlot) {
-    Sandbox box;
-    auto doc = box.newDocument();
-    for (int i = 1; i <= MaxImages; ++i)
-        doc->Images[i].TabNo = 1;
-    EXPECT_EQ(GetArrNo(*doc, 1), 0);
-    doc->Images[20].TabNo = -1; // negative: not free
-    EXPECT_EQ(GetArrNo(*doc, 1), 0);
-    doc->Images[31].TabNo = 0;
-    EXPECT_EQ(GetArrNo(*doc, 1), 31);
-    doc->Texts[1].TabNo = 3;
-    EXPECT_EQ(GetArrNo(*doc, 2), 2);
-    EXPECT_EQ(GetArrNo(*doc, 0), 0);
-    EXPECT_EQ(GetArrNo(*doc, 3), 0);
-}
-
 TEST(TabMap, StripPositionsBothWays) {
     const int strip[] = {1, 8, 7, 6, 5, 4, 3, 2, 9};
     for (int tab = 0; tab <= 8; ++tab) {

@@ -76,39 +76,37 @@ TEST_F(PackagePlayerTest, SelfRunningResumeReadsItself) {
 }
 
 TEST_F(PackagePlayerTest, PlayerReadsAPackageNamedOnItsCommandLine) {
+    const QString junk = box.path(QStringLiteral("junk.qdv"));
+    ASSERT_TRUE(WriteAll(junk, QByteArray(100, 'j')));
     const struct {
-        const char* name;
-        bool selfRun;
-        const char* format;
-    } cases[] = {{"cv.qdv", false, "qdv"}, {"other.exe", true, "selfrun"}};
+        QString package; // empty: none named
+        int status;
+        const char* format; // on success
+        const char* error;  // on failure
+    } cases[] = {
+        {generate(QStringLiteral("cv.qdv"), false), 0, "qdv", nullptr},
+        {generate(QStringLiteral("other.exe"), true), 0, "selfrun", nullptr},
+        {QString(), 1, nullptr, "no résumé inside this program"},
+        {junk, 1, nullptr, "is not a package"},
+    };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        const QString path = generate(QLatin1String(c.name), c.selfRun);
+        SCOPED_TRACE(c.package.toStdString());
+        QStringList args{QStringLiteral("--info")};
+        if (!c.package.isEmpty())
+            args.prepend(c.package);
         QByteArray out, err;
-        ASSERT_EQ(RunProgram(QStringLiteral(ZENTOR_PLAYER_PATH), {path, QStringLiteral("--info")},
-                             &out, &err),
-                  0)
+        ASSERT_EQ(RunProgram(QStringLiteral(ZENTOR_PLAYER_PATH), args, &out, &err), c.status)
             << err.toStdString();
+        if (c.error) {
+            EXPECT_TRUE(err.contains(c.error)) << err.toStdString();
+            continue;
+        }
         const QJsonObject json = QJsonDocument::fromJson(out).object();
         EXPECT_EQ(json.value(QStringLiteral("Format")).toString(), QLatin1String(c.format));
         EXPECT_EQ(
             json.value(QStringLiteral("Profile")).toObject().value(QStringLiteral("FirstName")),
             QStringLiteral("Grace"));
     }
-}
-
-TEST_F(PackagePlayerTest, PlayerWithoutAPackageSaysSo) {
-    QByteArray err;
-    EXPECT_EQ(
-        RunProgram(QStringLiteral(ZENTOR_PLAYER_PATH), {QStringLiteral("--info")}, nullptr, &err),
-        1);
-    EXPECT_TRUE(err.contains("no résumé inside this program")) << err.toStdString();
-    const QString junk = box.path(QStringLiteral("junk.qdv"));
-    ASSERT_TRUE(WriteAll(junk, QByteArray(100, 'j')));
-    EXPECT_EQ(RunProgram(QStringLiteral(ZENTOR_PLAYER_PATH), {junk, QStringLiteral("--info")},
-                         nullptr, &err),
-              1);
-    EXPECT_TRUE(err.contains("is not a package")) << err.toStdString();
 }
 
 TEST_F(PackagePlayerTest, CliInfoAndUnpackOfPackages) {

@@ -208,49 +208,42 @@ TEST_F(PackageWriterTest, PathsAreTidiedOnlyAfterTheRecordsWereWritten) {
     EXPECT_EQ(blob(qdv, entryAt(qdv, 0, 10)), music);
 }
 
-TEST_F(PackageWriterTest, PositionsPastTheLimitAreRefused) {
-    const QByteArray full = generate(false, QStringLiteral("full.qdv"));
-    const qint64 lastByte = full.size(); // 1-based position of the last byte
-    for (const qint64 limit : {lastByte, lastByte - 1}) {
-        SCOPED_TRACE(limit);
-        ScriptedPrompter local;
-        ResumeGenerator limited(box.ctx, local, pictures);
-        limited.setPositionLimit(limit);
-        const QString out = box.path(QStringLiteral("limited.qdv"));
-        const bool fits = limit == lastByte;
-        if (!fits)
-            local.expectWarning(QStringLiteral("Generate QDV Error"),
-                                QStringLiteral("Can't create file : ") + out);
-        EXPECT_EQ(limited.writePackage(*doc, out, false),
-                  fits ? ResumeGenerator::Outcome::Written : ResumeGenerator::Outcome::Failed);
-        EXPECT_PROMPTS_DONE(local);
-        if (fits) {
-            EXPECT_EQ(ReadAll(out), full);
-        }
-    }
-}
-
 TEST_F(PackageWriterTest, FailuresToWriteShowTheWriteError) {
+    const QByteArray full = generate(false, QStringLiteral("full.qdv"));
     struct Case {
         const char* name;
         QString path;
         bool selfRun;
         QByteArray player;
+        qint64 limit; // the last 1-based position a blob may start at
     };
     const QList<Case> cases{
-        {"folder missing", box.path(QStringLiteral("no/such/folder/cv.qdv")), false, FakePlayer()},
+        {"last byte at the limit", box.path(QStringLiteral("at.qdv")), false, FakePlayer(),
+         full.size()},
+        {"one past the limit", box.path(QStringLiteral("past.qdv")), false, FakePlayer(),
+         full.size() - 1},
+        {"folder missing", box.path(QStringLiteral("no/such/folder/cv.qdv")), false, FakePlayer(),
+         0},
         {"player of the wrong size", box.path(QStringLiteral("cv.exe")), true,
-         FakePlayer().left(1000)},
+         FakePlayer().left(1000), 0},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         ScriptedPrompter local;
         ResumeGenerator failing(box.ctx, local, pictures);
         failing.setPlayer(c.player);
-        local.expectWarning(QStringLiteral("Generate QDV Error"),
-                            QStringLiteral("Can't create file : ") + c.path);
-        EXPECT_EQ(failing.writePackage(*doc, c.path, c.selfRun), ResumeGenerator::Outcome::Failed);
+        if (c.limit)
+            failing.setPositionLimit(c.limit);
+        const bool fits = c.limit == full.size();
+        if (!fits)
+            local.expectWarning(QStringLiteral("Generate QDV Error"),
+                                QStringLiteral("Can't create file : ") + c.path);
+        EXPECT_EQ(failing.writePackage(*doc, c.path, c.selfRun),
+                  fits ? ResumeGenerator::Outcome::Written : ResumeGenerator::Outcome::Failed);
         EXPECT_PROMPTS_DONE(local);
+        if (fits) {
+            EXPECT_EQ(ReadAll(c.path), full);
+        }
     }
 }
 

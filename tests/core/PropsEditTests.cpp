@@ -58,6 +58,33 @@ TEST(PropsEdit, TextCommitsCutAndPadToTheirField) {
     EXPECT_TRUE(doc->Texts[4].Text.isNul());
 }
 
+TEST(PropsEdit, TargetsOutsideTheTablesAreRefused) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    const struct {
+        PropertyText box;
+        PropertyTarget target;
+        bool stored;
+    } rows[] = {
+        {PropertyText::ImgName, {1, 0}, true},
+        {PropertyText::ImgName, {1, MaxImages}, true},
+        {PropertyText::ImgName, {1, MaxImages + 1}, false},
+        {PropertyText::ImgName, {1, -1}, false},
+        {PropertyText::Word, {1, MaxTexts}, true},
+        {PropertyText::TextName, {1, MaxTexts + 1}, false},
+        {PropertyText::TextName, {1, -1}, false},
+        {PropertyText::TabName, {0, 0}, true},
+        {PropertyText::TabName, {MaxTab, 0}, true},
+        {PropertyText::TabName, {MaxTab + 1, 0}, false},
+        {PropertyText::TabName, {-1, 0}, false},
+    };
+    for (const auto& r : rows) {
+        EXPECT_EQ(CommitPropertyText(*doc, r.target, r.box, "x").stored, r.stored)
+            << int(r.box) << " " << r.target.tab << "/" << r.target.slot;
+        EXPECT_EQ(PropertyBoxText(*doc, r.target, r.box), r.stored ? "x" : "");
+    }
+}
+
 TEST(PropsEdit, KeepOnTimeKeepsTheOldValueOnANonNumber) {
     Sandbox box;
     auto doc = box.newDocument();

@@ -5,6 +5,7 @@
 #include "render/ResImages.h"
 
 #include <QImage>
+#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -75,6 +76,9 @@ TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
     // A free slot (TabNo 0) with a file is never drawn.
     PlaceImage(*doc, 7, 4, red, QRect(600, 0, 100, 100));
     doc->Images[7].TabNo = 0;
+    // The last slot of each table is drawn like any other.
+    PlaceImage(*doc, MaxImages, 4, green, QRect(700, 500, 50, 50));
+    PlaceText(*doc, MaxTexts, 4, QStringLiteral("XX"), QRect(500, 20, 90, 60), int(0xFF0000FFu));
 
     const QImage page = RenderPageImage(*doc, 4, res);
     EXPECT_EQ(page.pixel(150, 150), qRgb(255, 0, 0));
@@ -83,6 +87,8 @@ TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
     EXPECT_GT(test::CountPixels(page, qRgb(0, 0, 255), QRect(210, 210, 180, 80)), 200);
     EXPECT_EQ(page.pixel(550, 450), White);
     EXPECT_EQ(page.pixel(650, 50), White);
+    EXPECT_EQ(page.pixel(725, 525), qRgb(0, 255, 0));
+    EXPECT_GT(test::CountPixels(page, qRgb(0, 0, 255), QRect(500, 20, 90, 60)), 100);
     // Tab 6 has its own picture, and not tab 4's.
     const QImage other = RenderPageImage(*doc, 6, res);
     EXPECT_EQ(other.pixel(550, 450), qRgb(255, 0, 0));
@@ -130,9 +136,21 @@ TEST_F(RenderCompositor, OutputsAndWriteBack) {
     EXPECT_EQ(QImage::fromData(jpeg).size(), QSize(800, 600));
     EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(10), QStringLiteral("   pic.png"));
 
-    ASSERT_TRUE(RenderPage(*doc, 8, res, box.ctx));
-    EXPECT_EQ(QImage::fromData(test::ReadAll(box.ctx.TempImagePath)).size(), QSize(800, 600));
-    EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(8), QStringLiteral("pic.png "));
+    // Writing the page trims the path of the tab picture it shows: page 8 shows page 1's.
+    for (const int page : {8, 1}) {
+        doc->Tabs[1].Picture.FileName = QStringLiteral("   pic.png");
+        ASSERT_TRUE(RenderPage(*doc, page, res, box.ctx));
+        EXPECT_EQ(QImage::fromData(test::ReadAll(box.ctx.TempImagePath)).size(), QSize(800, 600));
+        EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(8), QStringLiteral("pic.png ")) << page;
+    }
+    // Painting onto another surface: a page outside 1..8 leaves it as it was.
+    for (const int page : {0, SlideShowTab + 1}) {
+        QImage img = test::Solid(800, 600, qRgb(1, 2, 3));
+        QPainter p(&img);
+        PaintPage(p, *doc, page, res);
+        p.end();
+        EXPECT_EQ(img, test::Solid(800, 600, qRgb(1, 2, 3))) << page;
+    }
 
     // Pages outside 1..8 and frames that cannot be drawn give nothing.
     EXPECT_TRUE(RenderPageImage(*doc, 0, res).isNull());

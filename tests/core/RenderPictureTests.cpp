@@ -83,6 +83,18 @@ TEST(RenderPicture, SaveImageAsByEnding) {
     EXPECT_FALSE(SaveImageAs(img, box.path("no/such/dir/x.png"), 95));
 }
 
+TEST(RenderPicture, OnlyAJpegDropsTheAlphaChannel) {
+    test::Sandbox box;
+    QImage half(8, 8, QImage::Format_ARGB32_Premultiplied);
+    half.fill(qRgba(128, 0, 0, 128)); // red at half opacity
+    ASSERT_TRUE(SaveImageAs(half, box.path("a.png"), 95));
+    ASSERT_TRUE(SaveImageAs(half, box.path("a.jpg"), 95));
+    EXPECT_EQ(qAlpha(QImage(box.path("a.png")).pixel(4, 4)), 128);
+    // The colour stays whole; only its opacity goes.
+    EXPECT_TRUE(Near(QImage(box.path("a.jpg")).pixel(4, 4), qRgb(255, 0, 0), 8));
+    EXPECT_TRUE(Near(QImage::fromData(EncodeJpeg(half, 95)).pixel(4, 4), qRgb(255, 0, 0), 8));
+}
+
 TEST(RenderPicture, ResizeToTempStretches) {
     test::Sandbox box;
     const struct {

@@ -153,7 +153,8 @@ TEST_F(RenderWorkspace, Previews) {
 
     EXPECT_EQ(UserIconPreview(*doc, res).pixel(64, 64), ResColor(ResLogo));
     doc->Profile.UserIcon = file("u.png", qRgb(4, 5, 6));
-    EXPECT_EQ(UserIconPreview(*doc, res).pixel(127, 0), qRgb(4, 5, 6));
+    for (const QPoint corner : {QPoint(0, 0), QPoint(127, 127)})
+        EXPECT_EQ(UserIconPreview(*doc, res).pixel(corner), qRgb(4, 5, 6));
     // A missing file leaves the preview white.
     doc->Profile.UserIcon = box.path("none.png");
     EXPECT_EQ(UserIconPreview(*doc, res).pixel(64, 64), White);
