@@ -121,15 +121,6 @@ TEST_F(WindowTest, StartsOnTheProfilePageWithTheDocumentsTabNames) {
     EXPECT_EQ(find<QAction>("SubFile8")->shortcut(), QKeySequence("Ctrl+Shift+S"));
 }
 
-TEST_F(WindowTest, TheTitleMarksUnsavedWork) {
-    EXPECT_EQ(window->windowTitle(), "Untitled[*] - Vitara Zentor");
-    EXPECT_FALSE(window->isWindowModified());
-    doc->Dirty = true;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->isWindowModified(); }, 2000));
-    doc->Dirty = false;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isWindowModified(); }, 2000));
-}
-
 TEST_F(WindowTest, InsertingATextSelectsItUnderTheFrame) {
     clickStrip(2);
     run(CmdInsertText);
@@ -513,6 +504,37 @@ TEST_F(WindowTest, APictureDroppedOnAPageBecomesAPictureObjectThere) {
     const ImageElement& e = doc->Images[state().SelectedIndex];
     EXPECT_EQ(QRect(e.Left, e.Top, e.Width, e.Height), QRect(250, 160, 100, 80));
     EXPECT_EQ(e.FileName.trimNull(), picture);
+}
+
+// The mark follows each change the moment it is made, whoever made it: no events are
+// processed between the change and the look at the title.
+TEST_F(WindowTest, TheTitleMarkFollowsEachChangeAtOnce) {
+    EXPECT_EQ(window->windowTitle(), "Untitled[*] - Vitara Zentor");
+    EXPECT_FALSE(window->isWindowModified());
+    QTest::keyClick(find<QLineEdit>("TxtFirstName"), Qt::Key_A);
+    EXPECT_TRUE(window->isWindowModified());
+
+    window->toolbarAction(CmdNextTab)->trigger(); // the Personal page
+    window->toolbarAction(CmdInsertText)->trigger();
+    const QString path = sandbox.path("cv.qds");
+    prompter.expectFile(true, "Save QDV Script File", ScriptFilter, path);
+    window->toolbarAction(CmdSave)->trigger();
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_EQ(window->windowTitle(), "cv.qds[*] - Vitara Zentor");
+
+    window->editor().undo();
+    EXPECT_TRUE(window->isWindowModified());
+    window->editor().redo(); // back at the save point
+    EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(WindowTest, ExportVideoAsksWhereAndNamesTheFileInTheStatusBar) {
+    const QString typed = sandbox.path("show");
+    prompter.expectFile(true, "Export Video", "*.mp4|*.mp4", typed);
+    find<QAction>("SubFileVideo")->trigger();
+    EXPECT_EQ(ReadAll(typed + ".mp4").mid(4, 4), "ftyp");
+    const QString status = find<QLabel>("StatusPanel1")->text();
+    EXPECT_TRUE(status.startsWith("Wrote show.mp4 (")) << status.toStdString();
 }
 
 } // namespace
