@@ -18,6 +18,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <array>
 #include <future>
 
 namespace zentor {
@@ -145,10 +146,33 @@ QJsonObject TextLayer(const QString& text, double left, double top, double width
     return o;
 }
 
-// The page's texts and picture objects in drawing order, for the layer over its picture.
-QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg, DataUris& uris) {
+// The words over each page: they need only the document, so they are laid out while the
+// pages are generated.
+using PageTexts = std::array<QJsonArray, SlideShowTab + 1>;
+
+PageTexts TextLayers(const Document& doc) {
+    PageTexts texts;
+    for (int page = 1; page <= SlideShowTab; ++page) {
+        const int tab = page == SlideShowTab ? 1 : page;
+        for (int i = 1; i <= MaxTexts; ++i) {
+            const TextElement& t = doc.Texts[size_t(i)];
+            if (t.TabNo != tab)
+                continue;
+            const QJsonObject o =
+                TextLayer(t.Text.text(), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
+                          t.FontSize, t.FontStyle, t.Align, t.LineAlign);
+            if (!o.isEmpty())
+                texts[size_t(page)].append(o);
+        }
+    }
+    return texts;
+}
+
+// The page's picture objects in drawing order and its texts, for the layer over its picture.
+QJsonObject PageLayer(const Document& doc, int page, const QJsonArray& texts,
+                      const QByteArray& jpeg, DataUris& uris) {
     const int tab = page == SlideShowTab ? 1 : page;
-    QJsonArray images, texts;
+    QJsonArray images;
     for (int i = 1; i <= MaxImages; ++i) {
         const ImageElement& img = doc.Images[size_t(i)];
         if (img.TabNo != tab)
@@ -156,16 +180,6 @@ QJsonObject PageLayer(const Document& doc, int page, const QByteArray& jpeg, Dat
         QJsonObject o = Box(img.Left, img.Top, img.Width, img.Height);
         o.insert("name", img.Name.trimNull());
         images.append(o);
-    }
-    for (int i = 1; i <= MaxTexts; ++i) {
-        const TextElement& t = doc.Texts[size_t(i)];
-        if (t.TabNo != tab)
-            continue;
-        const QJsonObject o =
-            TextLayer(t.Text.text(), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
-                      t.FontSize, t.FontStyle, t.Align, t.LineAlign);
-        if (!o.isEmpty())
-            texts.append(o);
     }
     const QString name = page == SlideShowTab ? QStringLiteral("Slide Show")
                                               : doc.Tabs[size_t(page)].Name.trimNull();
@@ -212,6 +226,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
                          const Progress& progress) {
     if (FrameSize(doc).isEmpty())
         return QByteArray();
+    std::future<PageTexts> texts = std::async(std::launch::async, TextLayers, std::cref(doc));
     // The pages are the package's own, the home page the players' own.
     PackageContents package;
     QStringList warnings;
@@ -230,11 +245,13 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     show.insert("title", PersonName(doc));
     DataUris uris;
     QJsonObject pages;
+    const PageTexts pageTexts = texts.get();
     for (int page = 1; page <= SlideShowTab; ++page) {
         if (!GoOn(progress, page, SlideShowTab + 1))
             return QByteArray();
         pages.insert(QString::number(page),
-                     PageLayer(doc, page, package.blob(show::PageEntryOfTab(page)), uris));
+                     PageLayer(doc, page, pageTexts[size_t(page)],
+                               package.blob(show::PageEntryOfTab(page)), uris));
     }
     if (!GoOn(progress, SlideShowTab + 1, SlideShowTab + 1))
         return QByteArray();
