@@ -63,10 +63,11 @@ ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
     contacts_ = show::LayoutHome(package.Info.Profile, frame_.width(), frame_.height());
     // Every page is decoded once, side by side, and kept for showing; a page that cannot be
     // decoded is not called empty: the show keeps its place.
+    const QSize size = pages == Pages::Shown ? frame_ : Quarter(frame_);
     std::vector<std::future<std::optional<QImage>>> decoding;
     for (int entry : show::PageOrder)
         decoding.push_back(
-            std::async(std::launch::async, [this, entry] { return loadPage(entry); }));
+            std::async(std::launch::async, [this, entry, size] { return loadPage(entry, size); }));
     std::array<bool, Package::EntryCount> empty{};
     for (size_t i = 0; i < decoding.size(); ++i) {
         const int entry = show::PageOrder[i];
