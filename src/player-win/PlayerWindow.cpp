@@ -7,6 +7,7 @@
 #include <shellapi.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace show = zentor::show;
 
@@ -18,38 +19,17 @@ constexpr UINT StartMusic = WM_APP + 1;
 constexpr int FadeStepMs = 15;
 
 bool keyOf(WPARAM key, show::ShowKey& out) {
-    switch (key) {
-    case VK_ESCAPE:
-        out = show::ShowKey::Escape;
-        return true;
-    case VK_LEFT:
-        out = show::ShowKey::Left;
-        return true;
-    case VK_RIGHT:
-        out = show::ShowKey::Right;
-        return true;
-    case VK_UP:
-        out = show::ShowKey::Up;
-        return true;
-    case VK_DOWN:
-        out = show::ShowKey::Down;
-        return true;
-    case VK_PRIOR:
-        out = show::ShowKey::PageUp;
-        return true;
-    case VK_NEXT:
-        out = show::ShowKey::PageDown;
-        return true;
-    case VK_SPACE:
-        out = show::ShowKey::Space;
-        return true;
-    case VK_F5:
-        out = show::ShowKey::F5;
-        return true;
-    case 'M':
-        out = show::ShowKey::M;
-        return true;
-    }
+    using show::ShowKey;
+    static constexpr std::pair<WPARAM, ShowKey> Keys[] = {
+        {VK_ESCAPE, ShowKey::Escape}, {VK_LEFT, ShowKey::Left},
+        {VK_RIGHT, ShowKey::Right},   {VK_UP, ShowKey::Up},
+        {VK_DOWN, ShowKey::Down},     {VK_PRIOR, ShowKey::PageUp},
+        {VK_NEXT, ShowKey::PageDown}, {VK_SPACE, ShowKey::Space},
+        {VK_F5, ShowKey::F5},         {'M', ShowKey::M},
+    };
+    for (const auto& [vk, mapped] : Keys)
+        if (vk == key)
+            return out = mapped, true;
     return false;
 }
 

@@ -11,6 +11,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace zentor {
 namespace {
@@ -19,40 +20,22 @@ constexpr int FadeTickMs = 16;
 
 bool KeyOf(int qtKey, show::ShowKey& key) {
     using show::ShowKey;
-    switch (qtKey) {
-    case Qt::Key_Escape:
-        key = ShowKey::Escape;
-        return true;
-    case Qt::Key_Left:
-        key = ShowKey::Left;
-        return true;
-    case Qt::Key_Right:
-        key = ShowKey::Right;
-        return true;
-    case Qt::Key_Up:
-        key = ShowKey::Up;
-        return true;
-    case Qt::Key_Down:
-        key = ShowKey::Down;
-        return true;
-    case Qt::Key_PageUp:
-        key = ShowKey::PageUp;
-        return true;
-    case Qt::Key_PageDown:
-        key = ShowKey::PageDown;
-        return true;
-    case Qt::Key_Space:
-        key = ShowKey::Space;
-        return true;
-    case Qt::Key_F5:
-        key = ShowKey::F5;
-        return true;
-    case Qt::Key_M:
-        key = ShowKey::M;
-        return true;
-    default:
-        return false;
-    }
+    static constexpr std::pair<int, ShowKey> Keys[] = {
+        {Qt::Key_Escape, ShowKey::Escape},
+        {Qt::Key_Left, ShowKey::Left},
+        {Qt::Key_Right, ShowKey::Right},
+        {Qt::Key_Up, ShowKey::Up},
+        {Qt::Key_Down, ShowKey::Down},
+        {Qt::Key_PageUp, ShowKey::PageUp},
+        {Qt::Key_PageDown, ShowKey::PageDown},
+        {Qt::Key_Space, ShowKey::Space},
+        {Qt::Key_F5, ShowKey::F5},
+        {Qt::Key_M, ShowKey::M},
+    };
+    for (const auto& [qt, mapped] : Keys)
+        if (qt == qtKey)
+            return key = mapped, true;
+    return false;
 }
 
 } // namespace
