@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 #include "render/ColorTable.h"
+#include "render/HomePage.h"
 #include "render/IconRing.h"
 #include "render/PageCompositor.h"
 #include "render/TabPictureLayout.h"
@@ -113,6 +114,20 @@ TEST(RenderLayout, IconRingAndBadge) {
     EXPECT_EQ(BadgeRect(QSize(800, 600)), QRect(530, 418, 240, 172));
     // 1024 * 0.3 = 307.2 -> 307; 307 * 0.715 = 219.505 -> 220.
     EXPECT_EQ(BadgeRect(QSize(1024, 768)), QRect(1024 - 307 - 30, 768 - 220 - 10, 307, 220));
+}
+
+// Under the centre picture: the hovered ring icon's tab name, from the first icon to the
+// slide show's, else the person.
+TEST(RenderLayout, HomeCaptionNamesTheHoveredIcon) {
+    std::array<QString, 9> names;
+    for (int i = 0; i < 9; ++i)
+        names[size_t(i)] = QStringLiteral(" Tab%1 ").arg(i);
+    const struct {
+        int hover;
+        const char* caption;
+    } cases[] = {{0, "Ann Lee"}, {1, "Tab1"}, {8, "Tab8"}, {9, "Ann Lee"}, {-1, "Ann Lee"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(HomeCaption(names, QStringLiteral("Ann Lee"), c.hover), c.caption) << c.hover;
 }
 
 TEST(RenderColor, SpotValuesInListOrder) {
