@@ -66,14 +66,28 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
         Seen expected;
     };
     const auto text = [](Document& d, int slot) -> TextElement& { return d.Texts[size_t(slot)]; };
+    // A dark picture under the start of page 6's text, `width` wide from the page's left.
+    const auto dark = [&](Document& d, int width, int left = 0) {
+        PlaceImage(d, 1, 6, QRect(left, 0, width, 200),
+                   Picture(box, "dark.png", width, 200, 0xFF202020));
+    };
+    const auto grey = [&](Document& d, int points, int style) {
+        text(d, 2).FontColor = int32_t(0xFF888888); // 3.5:1
+        text(d, 2).FontSize = points;
+        text(d, 2).FontStyle = style;
+    };
+    const auto drawn = [&](Document& d, QRect r, int w = 100, int h = 50) {
+        PlaceImage(d, 1, 7, r, Picture(box, "small.png", w, h));
+    };
+    using K = FindingKind;
     const Case cases[] = {
         {"correct sentences, black on white", [](Document&) {}, {}},
         {"a misspelt word",
          [&](Document& d) { text(d, 3).Text = QStringLiteral("I recieved an award."); },
-         {{FindingKind::Spelling, 3}}},
+         {{K::Spelling, 3}}},
         {"a misspelt page name",
          [](Document& d) { d.Tabs[6].Name = QStringLiteral("Objectve"); },
-         {{FindingKind::Spelling, 6}}},
+         {{K::Spelling, 6}}},
         {"the person's names, addresses and numbers",
          [&](Document& d) {
              d.Profile.Address = QStringLiteral("12 Brynmawrstraat");
@@ -87,17 +101,17 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
              text(d, 4).Text = QStringLiteral("One line.\nTwo lines.\nThree lines.\nFour.");
              text(d, 4).Height = 30;
          },
-         {{FindingKind::Overflow, 4}}},
+         {{K::Overflow, 4}}},
         {"a word wider than its box",
          [&](Document& d) {
              text(d, 5).Text = QStringLiteral("Internationalisation");
              text(d, 5).Width = 40;
              d.Profile.Address = QStringLiteral("Internationalisation"); // spelling aside
          },
-         {{FindingKind::Overflow, 5}}},
+         {{K::Overflow, 5}}},
         {"light grey on white",
          [&](Document& d) { text(d, 1).FontColor = int32_t(0xFFBBBBBB); },
-         {{FindingKind::Contrast, 1}}},
+         {{K::Contrast, 1}}},
         {"white on white with a shadow outlining it",
          [&](Document& d) {
              text(d, 1).FontColor = int32_t(0xFFFFFFFF);
@@ -108,57 +122,36 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
          [&](Document& d) {
              text(d, 6).FontColor = int32_t(0xFF000080);
              text(d, 6).FontShadow = -1;
-             PlaceImage(d, 1, 6, QRect(0, 0, 400, 200),
-                        Picture(box, "dark.png", 400, 200, 0xFF202020));
+             dark(d, 400);
          },
-         {{FindingKind::Contrast, 6}}},
-        {"grey 3.5:1 at 12 pt",
-         [&](Document& d) { text(d, 2).FontColor = int32_t(0xFF888888); },
-         {{FindingKind::Contrast, 2}}},
-        {"grey 3.5:1 at 18 pt is large enough",
+         {{K::Contrast, 6}}},
+        {"grey at 12 pt", [&](Document& d) { grey(d, 12, 0); }, {{K::Contrast, 2}}},
+        {"grey at 18 pt is large enough", [&](Document& d) { grey(d, 18, 0); }, {}},
+        {"grey at 14 pt bold is large enough", [&](Document& d) { grey(d, 14, 1); }, {}},
+        {"black text over a dark picture", [&](Document& d) { dark(d, 400); }, {{K::Contrast, 6}}},
+        {"a dark picture under a quarter of the line",
+         [&](Document& d) { dark(d, 80); },
+         {{K::Contrast, 6}}},
+        {"a dark speck at the start of the line", [&](Document& d) { dark(d, 26); }, {}},
+        {"a narrow box whose last column is dark",
          [&](Document& d) {
-             text(d, 2).FontColor = int32_t(0xFF888888);
-             text(d, 2).FontSize = 18;
+             text(d, 6).Width = 3;
+             dark(d, 200, 22);
          },
-         {}},
-        {"grey 3.5:1 at 14 pt bold is large enough",
-         [&](Document& d) {
-             text(d, 2).FontColor = int32_t(0xFF888888);
-             text(d, 2).FontStyle = 1;
-             text(d, 2).FontSize = 14;
-         },
-         {}},
-        {"black text over a dark picture",
-         [&](Document& d) {
-             PlaceImage(d, 1, 6, QRect(0, 0, 400, 200),
-                        Picture(box, "dark.png", 400, 200, 0xFF202020));
-         },
-         {{FindingKind::Contrast, 6}}},
-        {"black text with a dark picture under a quarter of its line",
-         [&](Document& d) {
-             PlaceImage(d, 1, 6, QRect(0, 0, 80, 200),
-                        Picture(box, "dark.png", 80, 200, 0xFF202020));
-         },
-         {{FindingKind::Contrast, 6}}},
-        {"black text with a dark speck at the start of its line",
-         [&](Document& d) {
-             PlaceImage(d, 1, 6, QRect(0, 0, 26, 200),
-                        Picture(box, "dark.png", 26, 200, 0xFF202020));
-         },
-         {}},
+         {{K::Overflow, 6}, {K::Contrast, 6}}},
         {"a picture drawn 2 times its pixels",
          [&](Document& d) {
-             PlaceImage(d, 1, 7, QRect(400, 300, 200, 100), Picture(box, "small.png", 100, 50));
+             drawn(d, {400, 300, 200, 100});
          },
-         {{FindingKind::Resolution, 7}}},
-        {"a picture drawn 1.5 times its pixels",
+         {{K::Resolution, 7}}},
+        {"drawn 1.5 times its pixels",
          [&](Document& d) {
-             PlaceImage(d, 1, 7, QRect(400, 300, 150, 75), Picture(box, "small.png", 100, 50));
+             drawn(d, {400, 300, 150, 75});
          },
          {}},
-        {"a picture drawn smaller than its pixels",
+        {"drawn smaller than its pixels",
          [&](Document& d) {
-             PlaceImage(d, 1, 7, QRect(400, 300, 80, 40), Picture(box, "small.png", 100, 50));
+             drawn(d, {400, 300, 80, 40});
          },
          {}},
         {"a tab picture stretched over the page",
@@ -168,10 +161,10 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
              p.Width = 800;
              p.Height = 600;
          },
-         {{FindingKind::Resolution, 2}}},
+         {{K::Resolution, 2}}},
         {"a user icon of 64 x 64",
          [&](Document& d) { d.Profile.UserIcon = Picture(box, "icon64.png", 64, 64); },
-         {{FindingKind::Resolution, 0}}},
+         {{K::Resolution, 0}}},
         {"a user icon of 128 x 128",
          [&](Document& d) { d.Profile.UserIcon = Picture(box, "icon128.png", 128, 128); },
          {}},
@@ -181,10 +174,8 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
              d.Tabs[5].Icon = box.path("gone.ico");
              d.Header.BackMusic = box.path("gone.mp3");
          },
-         {{FindingKind::Missing, 3}, {FindingKind::Missing, 5}, {FindingKind::Missing, 8}}},
-        {"a page with nothing on it",
-         [&](Document& d) { text(d, 4).TabNo = 0; },
-         {{FindingKind::Empty, 4}}},
+         {{K::Missing, 3}, {K::Missing, 5}, {K::Missing, 8}}},
+        {"a page with nothing on it", [&](Document& d) { text(d, 4).TabNo = 0; }, {{K::Empty, 4}}},
     };
     const auto speller = OpenUs();
     ASSERT_TRUE(speller);

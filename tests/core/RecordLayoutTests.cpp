@@ -8,35 +8,27 @@
 
 #include <QByteArray>
 
-#include <cstring>
-#include <vector>
+#include <initializer_list>
 
 using namespace zentor;
 using test::Padded;
 
 namespace {
 
-struct Expect {
-    int offset;
-    QByteArray bytes;
-};
-
-QByteArray le32(uint32_t v) {
-    const char b[4] = {char(v & 0xFF), char((v >> 8) & 0xFF), char((v >> 16) & 0xFF),
-                       char((v >> 24) & 0xFF)};
-    return QByteArray(b, 4);
+// Little-endian 32-bit values one after another.
+QByteArray le32(std::initializer_list<int64_t> values) {
+    QByteArray out;
+    for (const int64_t v : values)
+        for (int shift = 0; shift < 32; shift += 8)
+            out += char((v >> shift) & 0xFF);
+    return out;
 }
 QByteArray le16(uint16_t v) {
     const char b[2] = {char(v & 0xFF), char(v >> 8)};
     return QByteArray(b, 2);
 }
-
-// Builds the expected record: zero everywhere, then each field at its offset.
-QByteArray layout(int size, const std::vector<Expect>& fields) {
-    QByteArray out(size, '\0');
-    for (const Expect& f : fields)
-        out.replace(f.offset, f.bytes.size(), f.bytes);
-    return out;
+QByteArray zeros(int n) {
+    return QByteArray(n, '\0');
 }
 
 ImageElement sampleImage() {
@@ -55,19 +47,10 @@ ImageElement sampleImage() {
     return e;
 }
 
-std::vector<Expect> imageFieldsAt(int base) {
-    return {{base + 0, le32(3)},
-            {base + 4, le16(0xFFFF)},
-            {base + 6, Padded("image 7", 32)},
-            {base + 38, Padded("pics/a.jpg", 256)},
-            {base + 296, le32(4)},
-            {base + 300, le16(0x1234)},
-            {base + 304, le32(uint32_t(-5))},
-            {base + 308, le32(70000)},
-            {base + 312, le32(120)},
-            {base + 316, le32(0x01020304)},
-            {base + 320, le32(uint32_t(-2))}};
-}
+// Offsets 0, 4, 6, 38, a 2-byte gap, 296, 300, a 2-byte gap, 304 ... 320.
+const QByteArray ImageBytes = le32({3}) + le16(0xFFFF) + Padded("image 7", 32) +
+                              Padded("pics/a.jpg", 256) + zeros(2) + le32({4}) + le16(0x1234) +
+                              zeros(2) + le32({-5, 70000, 120, 0x01020304, -2});
 
 } // namespace
 
@@ -88,21 +71,11 @@ TEST(RecordLayout, HeaderBytes) {
     h.KeepOnTime = 7000;
     h.FrameWidth = 1024;
     h.FrameHeight = 768;
-    const QByteArray expected = layout(564, {{0, le32(1)},
-                                             {4, le32(2)},
-                                             {8, le32(3)},
-                                             {12, le32(4)},
-                                             {16, le32(5)},
-                                             {20, Padded("m.mp3", 256)},
-                                             {276, Padded("b.jpg", 256)},
-                                             {532, le32(500)},
-                                             {536, le32(1)},
-                                             {540, le32(0x00FF8040)},
-                                             {544, le32(20)},
-                                             {548, le32(1)},
-                                             {552, le32(7000)},
-                                             {556, le32(1024)},
-                                             {560, le32(768)}});
+    // Offsets 0 ... 16, 20, 276, 532 ... 560.
+    const QByteArray expected = le32({1, 2, 3, 4, 5}) + Padded("m.mp3", 256) +
+                                Padded("b.jpg", 256) +
+                                le32({500, 1, 0x00FF8040, 20, 1, 7000, 1024, 768});
+    ASSERT_EQ(expected.size(), 564);
     EXPECT_EQ(EncodeHeader(h), expected);
     ScriptHeader back;
     DecodeHeader(expected, back);
@@ -119,14 +92,11 @@ TEST(RecordLayout, ProfileBytes) {
     p.Website = "w.example";
     p.Address = "1 Road";
     p.PostCode = "N1";
-    const QByteArray expected = layout(800, {{0, Padded("me.png", 256)},
-                                             {256, Padded("Ada", 32)},
-                                             {288, Padded("Byron", 32)},
-                                             {320, Padded("555", 16)},
-                                             {336, Padded("a@b.example", 64)},
-                                             {400, Padded("w.example", 128)},
-                                             {528, Padded("1 Road", 256)},
-                                             {784, Padded("N1", 16)}});
+    // Offsets 0, 256, 288, 320, 336, 400, 528, 784.
+    const QByteArray expected = Padded("me.png", 256) + Padded("Ada", 32) + Padded("Byron", 32) +
+                                Padded("555", 16) + Padded("a@b.example", 64) +
+                                Padded("w.example", 128) + Padded("1 Road", 256) + Padded("N1", 16);
+    ASSERT_EQ(expected.size(), 800);
     EXPECT_EQ(EncodeProfile(p), expected);
     ProfileRecord back;
     DecodeProfile(expected, back);
@@ -135,19 +105,18 @@ TEST(RecordLayout, ProfileBytes) {
 
 TEST(RecordLayout, ImageAndTabBytesKeepGapsZero) {
     const ImageElement e = sampleImage();
-    const QByteArray expectedImage = layout(324, imageFieldsAt(0));
-    EXPECT_EQ(EncodeImage(e), expectedImage);
+    ASSERT_EQ(ImageBytes.size(), 324);
+    EXPECT_EQ(EncodeImage(e), ImageBytes);
 
     TabRecord t;
     t.Picture = e;
     t.Icon = "i.ico";
     t.Name = "Awards";
     t.Extra = 9;
-    std::vector<Expect> tabFields = imageFieldsAt(0);
-    tabFields.push_back({324, Padded("i.ico", 256)});
-    tabFields.push_back({580, Padded("Awards", 32)});
-    tabFields.push_back({612, le32(9)});
-    const QByteArray expectedTab = layout(616, tabFields);
+    // The picture, then offsets 324, 580, 612.
+    const QByteArray expectedTab =
+        ImageBytes + Padded("i.ico", 256) + Padded("Awards", 32) + le32({9});
+    ASSERT_EQ(expectedTab.size(), 616);
     EXPECT_EQ(EncodeTab(t), expectedTab);
 
     // Gap bytes are ignored on reading: garbage there changes nothing.
@@ -179,23 +148,13 @@ TEST(RecordLayout, TextBytes) {
     t.TextHint = 4;
     t.LineAlign = 1;
     t.Extra2 = -7;
-    const QByteArray expected = layout(4216, {{0, le32(7)},
-                                              {4, Padded("text 1", 32)},
-                                              {36, Padded("Hello", 4096)},
-                                              {4132, le32(11)},
-                                              {4136, le32(10)},
-                                              {4140, le32(20)},
-                                              {4144, le32(300)},
-                                              {4148, le32(40)},
-                                              {4152, Padded("Arial", 31)},
-                                              {4184, le32(12)},
-                                              {4188, le32(5)},
-                                              {4192, le32(2)},
-                                              {4196, le32(0xFF000000)},
-                                              {4200, le16(0xFFFF)},
-                                              {4204, le32(4)},
-                                              {4208, le32(1)},
-                                              {4212, le32(uint32_t(-7))}});
+    // Offsets 0, 4, 36, 4132 ... 4148, 4152 (31 bytes and a gap), 4184 ... 4196, 4200 (2 bytes
+    // and a gap), 4204 ... 4212.
+    const QByteArray expected = le32({7}) + Padded("text 1", 32) + Padded("Hello", 4096) +
+                                le32({11, 10, 20, 300, 40}) + Padded("Arial", 31) + zeros(1) +
+                                le32({12, 5, 2, 0xFF000000}) + le16(0xFFFF) + zeros(2) +
+                                le32({4, 1, -7});
+    ASSERT_EQ(expected.size(), 4216);
     EXPECT_EQ(EncodeText(t), expected);
     TextElement back;
     DecodeText(expected, back);

