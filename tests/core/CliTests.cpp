@@ -64,8 +64,9 @@ TEST(Cli, NewWritesTheDefaultDocumentAndInfoPackAreInverse) {
 
 TEST(Cli, ErrorsAndDamagedFiles) {
     Sandbox box;
-    ASSERT_EQ(RunCli({"new", box.path("a.qds")}), 0);
-    ASSERT_TRUE(WriteAll(box.path("cut.qds"), ReadAll(box.path("a.qds")).left(2000)));
+    const QString a = box.path("a.qds");
+    ASSERT_EQ(RunCli({"new", a}), 0);
+    ASSERT_TRUE(WriteAll(box.path("cut.qds"), ReadAll(a).left(2000)));
     ASSERT_TRUE(WriteAll(box.path("bad.json"), QByteArray("{\"Texts\": 5}")));
     ASSERT_TRUE(WriteAll(box.path("broken.json"), QByteArray("{")));
 
@@ -89,11 +90,19 @@ TEST(Cli, ErrorsAndDamagedFiles) {
          "Texts must be an array"},
         {"broken JSON", {"pack", box.path("broken.json"), box.path("o.qds")}, 1, "offset"},
         {"unwritable output", {"new", box.path("no/dir/x.qds")}, 1, "cannot write"},
+        {"page 0 is only a view", {"render", a, "0", box.path("o.png")}, 2, ""},
+        {"no page 9", {"render", a, "9", box.path("o.png")}, 2, ""},
+        {"no view 9", {"render", a, "9", box.path("o.png"), "--view"}, 2, ""},
+        {"not a page", {"render", a, "x", box.path("o.png")}, 2, ""},
+        {"no BMP", {"render", a, "1", box.path("o.bmp")}, 2, ""},
+        {"no output", {"render", a, "1"}, 2, ""},
+        {"unwritable picture", {"render", a, "1", box.path("no/dir/o.png")}, 1, ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         QByteArray out, err;
         EXPECT_EQ(RunCli(c.args, &out, &err), c.status);
+        EXPECT_FALSE(err.isEmpty());
         EXPECT_TRUE(err.contains(c.stderrHas)) << err.toStdString();
     }
     // Usage asked for is the answer, on stdout.
@@ -106,6 +115,7 @@ TEST(Cli, ErrorsAndDamagedFiles) {
     ASSERT_EQ(RunCli({"info", box.path("cut.qds")}, &out), 0);
     EXPECT_EQ(field(parse(out), "Profile", "FirstName").toString(), "Quorvix");
     EXPECT_FALSE(QFile::exists(box.path("o.qds")));
+    EXPECT_FALSE(QFile::exists(box.path("o.png")));
 }
 
 TEST(Cli, PackNamesFieldsTheCodePageCannotHold) {
@@ -181,29 +191,4 @@ TEST(RenderCli, RendersPagesAndViews) {
         else
             EXPECT_TRUE(test::ReadAll(box.path(c.out)).startsWith("\xFF\xD8"));
     }
-}
-
-TEST(RenderCli, Errors) {
-    test::Sandbox box;
-    auto doc = box.newDocument();
-    const QString project = box.path("r.qds");
-    ASSERT_TRUE(SaveScript(*doc, project));
-    const struct {
-        QStringList args;
-        int status;
-    } cases[] = {
-        {{"render", project, "0", box.path("o.png")}, 2}, // page 0 is only a view
-        {{"render", project, "9", box.path("o.png")}, 2},
-        {{"render", project, "9", box.path("o.png"), "--view"}, 2},
-        {{"render", project, "x", box.path("o.png")}, 2},
-        {{"render", project, "1", box.path("o.bmp")}, 2},
-        {{"render", project, "1"}, 2},
-        {{"render", project, "1", box.path("no/dir/o.png")}, 1},
-    };
-    for (const auto& c : cases) {
-        QByteArray err;
-        EXPECT_EQ(test::RunCli(c.args, nullptr, &err), c.status) << qPrintable(c.args.join(' '));
-        EXPECT_FALSE(err.isEmpty()) << qPrintable(c.args.join(' '));
-    }
-    EXPECT_FALSE(QFile::exists(box.path("o.png")));
 }

@@ -42,11 +42,11 @@ TEST(DropFiles, APictureIsFittedToHalfThePageCentredOnThePointAndKeptOnThePage) 
 TEST(DropFiles, AProjectWinsAndOnlyReadablePicturesComeOtherwise) {
     Sandbox box;
     const QString png = Picture(box, "a.png", 20, 10);
-    const QString text = box.path(QStringLiteral("notes.txt"));
+    const QString text = box.path("notes.txt");
     WriteAll(text, "not a picture");
-    const QString fifo = box.path(QStringLiteral("pipe.png"));
+    const QString fifo = box.path("pipe.png");
     ASSERT_EQ(mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-    const QString project = box.path(QStringLiteral("cv.QDS"));
+    const QString project = box.path("cv.QDS");
 
     const DropPlan mixed = PlanDrop({png, text, fifo, png});
     EXPECT_TRUE(mixed.project.isEmpty());
@@ -71,7 +71,7 @@ TEST(DropFiles, PicturesOnAContentPageAreOneStepAndElsewhereNothing) {
     EXPECT_EQ(f.doc->Images[2].TabNo, 2);
     EXPECT_EQ(f.doc->Images[2].Left, 390); // the next one 10 pixels on
     EXPECT_EQ(f.editor.state().SelectedIndex, 2);
-    EXPECT_EQ(f.editor.undoStack().undoName(), QStringLiteral("Drop 2 pictures"));
+    EXPECT_EQ(f.editor.undoStack().undoName(), "Drop 2 pictures");
     f.editor.undo();
     EXPECT_EQ(SavedBytes(*f.doc), clean);
     EXPECT_FALSE(f.doc->Dirty);
@@ -89,14 +89,13 @@ TEST(DropFiles, PicturesOnAContentPageAreOneStepAndElsewhereNothing) {
 TEST(DropFiles, ADroppedProjectOpensAfterTheChangedDocumentQuestion) {
     EditorFixture f;
     auto other = f.box.newDocument();
-    other->Profile.FirstName = QStringLiteral("Ada");
-    const QString path = f.box.path(QStringLiteral("other.qds"));
+    other->Profile.FirstName = "Ada";
+    const QString path = f.box.path("other.qds");
     ASSERT_TRUE(SaveScript(*other, path));
     f.doc->Dirty = true;
-    f.prompter.expectYesNoCancel(QStringLiteral("Open File"),
-                                 QStringLiteral("Do you want to save the work?"), Answer::No);
+    f.prompter.expectYesNoCancel("Open File", "Do you want to save the work?", Answer::No);
     f.editor.dropFiles({path}, std::nullopt);
-    EXPECT_EQ(f.doc->Profile.FirstName.trimNull(), QStringLiteral("Ada"));
+    EXPECT_EQ(f.doc->Profile.FirstName.trimNull(), "Ada");
     EXPECT_EQ(f.doc->ScriptPath, path);
     EXPECT_FALSE(f.doc->Dirty);
     EXPECT_PROMPTS_DONE(f.prompter);
@@ -107,16 +106,16 @@ TEST(RecentFiles, TheLatestComesFirstOnceEightAreKeptAndAMissingOneIsTold) {
     for (int i = 1; i <= 9; ++i)
         list = WithRecentFile(list, QStringLiteral("/p/%1.qds").arg(i));
     EXPECT_EQ(list.size(), 8);
-    EXPECT_EQ(list.first(), QStringLiteral("/p/9.qds"));
-    EXPECT_EQ(list.last(), QStringLiteral("/p/2.qds"));
-    list = WithRecentFile(list, QStringLiteral("/p/5.qds"));
+    EXPECT_EQ(list.first(), "/p/9.qds");
+    EXPECT_EQ(list.last(), "/p/2.qds");
+    list = WithRecentFile(list, "/p/5.qds");
     EXPECT_EQ(list.mid(0, 3), QStringList({"/p/5.qds", "/p/9.qds", "/p/8.qds"}));
-    EXPECT_EQ(list.count(QStringLiteral("/p/5.qds")), 1);
-    EXPECT_TRUE(WithRecentFile({}, QStringLiteral("rel.qds")).first().startsWith('/'));
+    EXPECT_EQ(list.count("/p/5.qds"), 1);
+    EXPECT_TRUE(WithRecentFile({}, "rel.qds").first().startsWith('/'));
 
     EditorFixture f;
-    const QString gone = f.box.path(QStringLiteral("gone.qds"));
-    f.prompter.expectWarning(QStringLiteral("Open File"), MissingRecentText(gone));
+    const QString gone = f.box.path("gone.qds");
+    f.prompter.expectWarning("Open File", MissingRecentText(gone));
     EXPECT_FALSE(f.editor.openRecent(gone)); // the menu drops it
     EXPECT_PROMPTS_DONE(f.prompter);
 }

@@ -23,23 +23,23 @@ namespace {
 class GenerateRenderedTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        write(QStringLiteral("face.png"), PictureBytes(300, 100, 0xff884422));
-        write(QStringLiteral("back.jpg"), PictureBytes(200, 50, 0xff224488, "JPEG"));
-        write(QStringLiteral("hills.png"), PictureBytes(320, 240, 0xff40a040));
-        write(QStringLiteral("photo.jpg"), PictureBytes(90, 60, 0xffa04040, "JPEG"));
-        write(QStringLiteral("song.mp3"), QByteArray("ID3\3\0") + QByteArray(700, 's'));
+        write("face.png", PictureBytes(300, 100, 0xff884422));
+        write("back.jpg", PictureBytes(200, 50, 0xff224488, "JPEG"));
+        write("hills.png", PictureBytes(320, 240, 0xff40a040));
+        write("photo.jpg", PictureBytes(90, 60, 0xffa04040, "JPEG"));
+        write("song.mp3", QByteArray("ID3\3\0") + QByteArray(700, 's'));
         doc->Header.FrameWidth = 640;
         doc->Header.FrameHeight = 480;
-        doc->Header.BackPicture = QStringLiteral("back.jpg");
-        doc->Header.BackMusic = QStringLiteral("song.mp3");
-        doc->Profile.UserIcon = QStringLiteral("face.png");
+        doc->Header.BackPicture = "back.jpg";
+        doc->Header.BackMusic = "song.mp3";
+        doc->Profile.UserIcon = "face.png";
         ImageElement& tabPicture = doc->Tabs[1].Picture;
-        tabPicture.FileName = QStringLiteral("  hills.png");
+        tabPicture.FileName = "  hills.png";
         tabPicture.Width = 640;
         tabPicture.Height = 480;
-        PlaceImage(*doc, 1, 1, {20, 30, 180, 120}, QStringLiteral("photo.jpg"));
-        PlaceText(*doc, 1, 1, {20, 200, 400, 60}, QStringLiteral("Experience")).FontShadow = -1;
-        ASSERT_TRUE(SaveScript(*doc, box.path(QStringLiteral("cv.qds"))));
+        PlaceImage(*doc, 1, 1, {20, 30, 180, 120}, "photo.jpg");
+        PlaceText(*doc, 1, 1, {20, 200, 400, 60}, "Experience").FontShadow = -1;
+        ASSERT_TRUE(SaveScript(*doc, box.path("cv.qds")));
     }
     void write(const QString& name, const QByteArray& bytes) {
         ASSERT_TRUE(WriteAll(box.path(name), bytes));
@@ -60,7 +60,7 @@ protected:
 };
 
 TEST_F(GenerateRenderedTest, PicturesAreJpegsOfQuality95AtTheirSizes) {
-    const PackageContents p = generate(QStringLiteral("cv.qdv"), false, *doc);
+    const PackageContents p = generate("cv.qdv", false, *doc);
     ASSERT_TRUE(p.Problems.isEmpty()) << p.Problems.join('\n').toStdString();
     const struct {
         int entry;
@@ -83,28 +83,28 @@ TEST_F(GenerateRenderedTest, PicturesAreJpegsOfQuality95AtTheirSizes) {
 
 TEST_F(GenerateRenderedTest, PagesAreWhatTheCompositorWritesAndWorkersChangeNothing) {
     auto reference = std::make_unique<Document>(*doc);
-    const PackageContents sequential = generate(QStringLiteral("seq.qdv"), false, *doc);
+    const PackageContents sequential = generate("seq.qdv", false, *doc);
     for (int page = 1; page <= 8; ++page) {
         SCOPED_TRACE(page);
         ASSERT_TRUE(RenderPage(*reference, page, res, box.ctx));
         EXPECT_EQ(sequential.blob(10 + page), ReadAll(box.ctx.TempImagePath));
     }
     auto again = std::make_unique<Document>(*reference);
-    again->Tabs[1].Picture.FileName = QStringLiteral("  hills.png");
-    const PackageContents parallel = generate(QStringLiteral("par.qdv"), true, *again);
+    again->Tabs[1].Picture.FileName = "  hills.png";
+    const PackageContents parallel = generate("par.qdv", true, *again);
     EXPECT_EQ(parallel.Data, sequential.Data);
     // Rendering wrote the tab picture's path back without its blanks, as the page does.
-    EXPECT_TRUE(doc->Tabs[1].Picture.FileName.raw().startsWith(QStringLiteral("hills.png ")));
-    EXPECT_TRUE(again->Tabs[1].Picture.FileName.raw().startsWith(QStringLiteral("hills.png ")));
+    EXPECT_TRUE(doc->Tabs[1].Picture.FileName.raw().startsWith("hills.png "));
+    EXPECT_TRUE(again->Tabs[1].Picture.FileName.raw().startsWith("hills.png "));
 }
 
 TEST_F(GenerateRenderedTest, CliGenerateWarnsForEachUnreadableSource) {
-    doc->Header.BackMusic = QStringLiteral("gone.mp3");
-    doc->Profile.UserIcon = QStringLiteral("gone.png");
-    doc->Tabs[4].Icon = QStringLiteral("gone.ico");
-    doc->Tabs[7].Picture.FileName = QStringLiteral("gone-tab.jpg");
-    PlaceImage(*doc, 32, 3, QRect(0, 0, 50, 50), QStringLiteral("gone-object.png"));
-    const QString project = box.path(QStringLiteral("broken.qds"));
+    doc->Header.BackMusic = "gone.mp3";
+    doc->Profile.UserIcon = "gone.png";
+    doc->Tabs[4].Icon = "gone.ico";
+    doc->Tabs[7].Picture.FileName = "gone-tab.jpg";
+    PlaceImage(*doc, 32, 3, QRect(0, 0, 50, 50), "gone-object.png");
+    const QString project = box.path("broken.qds");
     ASSERT_TRUE(SaveScript(*doc, project));
     const struct {
         const char* name;
@@ -115,20 +115,15 @@ TEST_F(GenerateRenderedTest, CliGenerateWarnsForEachUnreadableSource) {
     } cases[] = {
         {"data file", {}, "cv.qdv", 0, "qdv"},
         {"exe by its name", {}, "cv.EXE", 0, "selfrun"},
-        {"exe by option", {QStringLiteral("--selfrun")}, "cv.bin", 0, "selfrun"},
-        {"Linux player",
-         {QStringLiteral("--player"), QStringLiteral("linux")},
-         "cv.run",
-         0,
-         "selfrun"},
-        {"strict", {QStringLiteral("--strict")}, "strict.qdv", 1, nullptr},
+        {"exe by option", {"--selfrun"}, "cv.bin", 0, "selfrun"},
+        {"Linux player", {"--player", "linux"}, "cv.run", 0, "selfrun"},
+        {"strict", {"--strict"}, "strict.qdv", 1, nullptr},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         const QString out = box.path(QLatin1String(c.out));
         QByteArray stdOut, stdErr;
-        EXPECT_EQ(RunCli(QStringList{QStringLiteral("generate"), project, out} + c.extra, &stdOut,
-                         &stdErr),
+        EXPECT_EQ(RunCli(QStringList{"generate", project, out} + c.extra, &stdOut, &stdErr),
                   c.status)
             << stdErr.toStdString();
         const QList<QByteArray> lines = stdErr.trimmed().split('\n');

@@ -41,7 +41,7 @@ TEST(DefaultDocument, DefaultsAndWhichFieldsStayNul) {
         EXPECT_TRUE(doc->Tabs[i].Picture.FileName.isNul());
     }
     const TextElement& t = doc->Texts[0];
-    EXPECT_EQ(t.FontName.text(), QStringLiteral("Arial"));
+    EXPECT_EQ(t.FontName.text(), "Arial");
     EXPECT_EQ(t.FontSize, 12);
     EXPECT_EQ(t.FontColor, -1);
     EXPECT_EQ(t.FontShadow, -1);
@@ -57,7 +57,7 @@ TEST(DefaultDocument, NewForgetsEveryObjectAndThePath) {
     auto doc = box.newDocument();
     doc->Texts[5].TabNo = 2;
     doc->Images[32].TabNo = 1;
-    doc->ScriptPath = QStringLiteral("/x.qds");
+    doc->ScriptPath = "/x.qds";
     doc->Dirty = true;
     NewDocument(*doc, box.ctx);
     EXPECT_EQ(doc->Texts[5].TabNo, 0);
@@ -101,9 +101,8 @@ TEST(ProcessContext, CommandLineRule) {
 
 TEST(ProcessContext, WorkFolderComesBackAndGoesAway) {
     QTemporaryDir temp;
-    const ProcessContext ctx =
-        ProcessContext::create(QStringLiteral("/opt/zentor/bin"), temp.path());
-    EXPECT_EQ(ctx.AppPath, QStringLiteral("/opt/zentor/bin/"));
+    const ProcessContext ctx = ProcessContext::create("/opt/zentor/bin", temp.path());
+    EXPECT_EQ(ctx.AppPath, "/opt/zentor/bin/");
     EXPECT_EQ(ctx.WorkFolder, temp.path() + QStringLiteral("/Zentor/"));
     EXPECT_EQ(ctx.TempImagePath, ctx.WorkFolder + QStringLiteral("tempgen.jpg"));
     EXPECT_EQ(ctx.PlayerStubSize, 524288);
@@ -130,25 +129,23 @@ TEST(ProcessContext, OnlyWorkFoldersOfGoneProcessesAreRemoved) {
     };
     for (const Row& r : rows)
         ASSERT_TRUE(QDir(temp.path()).mkpath(QString::fromLatin1(r.name).arg(own) + "/inner"));
-    EXPECT_EQ(RemoveStaleWorkFolders(temp.path(), QStringLiteral("zentor-cli")), 1);
+    EXPECT_EQ(RemoveStaleWorkFolders(temp.path(), "zentor-cli"), 1);
     for (const Row& r : rows)
         EXPECT_EQ(QDir(temp.path()).exists(QString::fromLatin1(r.name).arg(own)), r.kept) << r.name;
-    EXPECT_TRUE(PrivateWorkTemplate(temp.path(), QStringLiteral("zentor-cli"))
-                    .endsWith("/zentor-cli-" + own + "-XXXXXX"));
+    EXPECT_TRUE(
+        PrivateWorkTemplate(temp.path(), "zentor-cli").endsWith("/zentor-cli-" + own + "-XXXXXX"));
 }
 
 TEST(FileUtil, HexColorTrimNullAndPaths) {
-    EXPECT_EQ(HexColor(255, 6), QStringLiteral("0000FF"));
-    EXPECT_EQ(HexColor(0x1234567, 6), QStringLiteral("234567"));
-    EXPECT_EQ(HexColor(0xFF, 8), QStringLiteral("000000FF"));
-    EXPECT_EQ(HexColor(0xFFFFFFFF, 8), QStringLiteral("FFFFFFFF"));
-    EXPECT_EQ(TrimNull(QStringLiteral("  a b ")), QStringLiteral("a b"));
-    EXPECT_EQ(TrimNull(QString::fromUtf16(u" ab\0cd  ", 8)), QStringLiteral("ab"));
-    EXPECT_EQ(ResolvePath(QStringLiteral("/p/cv.qds"), QStringLiteral(" media/a.jpg ")),
-              QStringLiteral("/p/media/a.jpg"));
-    EXPECT_EQ(ResolvePath(QStringLiteral("/p/cv.qds"), QStringLiteral("/abs/a.jpg")),
-              QStringLiteral("/abs/a.jpg"));
-    EXPECT_EQ(ResolvePath(QString(), QStringLiteral("rel.jpg")), QStringLiteral("rel.jpg"));
+    EXPECT_EQ(HexColor(255, 6), "0000FF");
+    EXPECT_EQ(HexColor(0x1234567, 6), "234567");
+    EXPECT_EQ(HexColor(0xFF, 8), "000000FF");
+    EXPECT_EQ(HexColor(0xFFFFFFFF, 8), "FFFFFFFF");
+    EXPECT_EQ(TrimNull("  a b "), "a b");
+    EXPECT_EQ(TrimNull(QString::fromUtf16(u" ab\0cd  ", 8)), "ab");
+    EXPECT_EQ(ResolvePath("/p/cv.qds", " media/a.jpg "), "/p/media/a.jpg");
+    EXPECT_EQ(ResolvePath("/p/cv.qds", "/abs/a.jpg"), "/abs/a.jpg");
+    EXPECT_EQ(ResolvePath(QString(), "rel.jpg"), "rel.jpg");
 }
 
 TEST(FileUtil, ReadFileBytesKeepsTheBufferOnFailure) {
@@ -163,33 +160,33 @@ TEST(FileUtil, ReadFileBytesKeepsTheBufferOnFailure) {
     EXPECT_EQ(ReadFileBytes(QStringLiteral("  ") + box.path("a.bin") + QStringLiteral(" "), buffer),
               3);
     EXPECT_EQ(buffer, QByteArray("abc"));
-    EXPECT_EQ(ReadFileBytes(QStringLiteral("   "), buffer, box.ctx.TempImagePath), 5);
+    EXPECT_EQ(ReadFileBytes("   ", buffer, box.ctx.TempImagePath), 5);
     EXPECT_EQ(buffer, QByteArray("temp!"));
 }
 
 TEST(CodePage, FieldsAreCutAtCharacterBoundaries) {
     // Windows-1252 by default: one byte per letter, € included.
     FixedString<4> f;
-    f = QStringLiteral("€uro!");
+    f = "€uro!";
     EXPECT_EQ(QByteArray(f.data(), 4), QByteArray("\x80uro"));
-    f = QStringLiteral("ĳ"); // not in the code page
+    f = "ĳ"; // not in the code page
     EXPECT_EQ(QByteArray(f.data(), 4), QByteArray("?   "));
 
     // A multi-byte code page never splits a character at the end of a field.
-    auto sjis = CodePage::create(QStringLiteral("932"));
+    auto sjis = CodePage::create("932");
     ASSERT_TRUE(sjis) << "iconv lacks CP932";
     CodePage::overrideActive(std::move(sjis));
     FixedString<5> jp;
-    jp = QStringLiteral("日本語");
+    jp = "日本語";
     EXPECT_EQ(QByteArray(jp.data(), 5).right(1), QByteArray(" ")); // 2+2 bytes, then a blank
-    EXPECT_EQ(jp.text(), QStringLiteral("日本"));
+    EXPECT_EQ(jp.text(), "日本");
     CodePage::overrideActive(nullptr);
 
-    auto cyrillic = CodePage::create(QStringLiteral("1251"));
+    auto cyrillic = CodePage::create("1251");
     ASSERT_TRUE(cyrillic);
     EXPECT_EQ(cyrillic->encode(QStringLiteral("Жук"), 10), QByteArray("\xC6\xF3\xEA"));
-    EXPECT_EQ(cyrillic->decode("\xC6\xF3\xEA"), QStringLiteral("Жук"));
-    EXPECT_FALSE(CodePage::create(QStringLiteral("no-such-page")));
+    EXPECT_EQ(cyrillic->decode("\xC6\xF3\xEA"), "Жук");
+    EXPECT_FALSE(CodePage::create("no-such-page"));
 }
 
 TEST(CodePage, ChosenForTheLanguageAsWindowsDoes) {

@@ -18,18 +18,16 @@ namespace {
 // The player must manage without a display for --info and --export.
 int RunProgram(const QString& program, const QStringList& args, QByteArray* out = nullptr,
                QByteArray* err = nullptr) {
-    return RunProcess(program, args, out, err,
-                      {QStringLiteral("DISPLAY"), QStringLiteral("WAYLAND_DISPLAY"),
-                       QStringLiteral("QT_QPA_PLATFORM")});
+    return RunProcess(program, args, out, err, {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"});
 }
 
 class PackagePlayerTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(WriteAll(box.path(QStringLiteral("song.mp3")), music));
-        doc->Header.BackMusic = box.path(QStringLiteral("song.mp3"));
+        ASSERT_TRUE(WriteAll(box.path("song.mp3"), music));
+        doc->Header.BackMusic = box.path("song.mp3");
         doc->Header.BackPicture.clearToNul();
-        doc->Profile.FirstName = QStringLiteral("Grace");
+        doc->Profile.FirstName = "Grace";
         gen.setPlayer(PlayerStub());
     }
     QString generate(const QString& name, bool selfRun) {
@@ -57,17 +55,16 @@ TEST_F(PackagePlayerTest, EmbeddedStubIsThePlayerPaddedToItsFixedSize) {
 }
 
 TEST_F(PackagePlayerTest, SelfRunningResumeReadsItself) {
-    const QString exe = generate(QStringLiteral("cv.exe"), true);
+    const QString exe = generate("cv.exe", true);
     QByteArray out, err;
-    ASSERT_EQ(RunProgram(exe, {QStringLiteral("--info")}, &out, &err), 0) << err.toStdString();
+    ASSERT_EQ(RunProgram(exe, {"--info"}, &out, &err), 0) << err.toStdString();
     const QJsonObject expected = PackageToJson(ParsePackage(ReadAll(exe), PackageForm::SelfRun));
     EXPECT_EQ(QJsonDocument::fromJson(out).object(), expected);
-    EXPECT_EQ(expected.value(QStringLiteral("Format")).toString(), QStringLiteral("selfrun"));
+    EXPECT_EQ(expected.value("Format").toString(), "selfrun");
 
-    const QString dir = box.path(QStringLiteral("shown"));
-    ASSERT_EQ(RunProgram(exe, {QStringLiteral("--export"), dir}, nullptr, &err), 0)
-        << err.toStdString();
-    QStringList expectedFiles{QStringLiteral("10-music.mp3")};
+    const QString dir = box.path("shown");
+    ASSERT_EQ(RunProgram(exe, {"--export", dir}, nullptr, &err), 0) << err.toStdString();
+    QStringList expectedFiles{"10-music.mp3"};
     for (int page = 1; page <= 8; ++page)
         expectedFiles << QStringLiteral("%1-page%2.jpg").arg(10 + page).arg(page);
     EXPECT_EQ(QDir(dir).entryList(QDir::Files, QDir::Name), expectedFiles);
@@ -76,7 +73,7 @@ TEST_F(PackagePlayerTest, SelfRunningResumeReadsItself) {
 }
 
 TEST_F(PackagePlayerTest, PlayerReadsAPackageNamedOnItsCommandLine) {
-    const QString junk = box.path(QStringLiteral("junk.qdv"));
+    const QString junk = box.path("junk.qdv");
     ASSERT_TRUE(WriteAll(junk, QByteArray(100, 'j')));
     const struct {
         QString package; // empty: none named
@@ -84,14 +81,14 @@ TEST_F(PackagePlayerTest, PlayerReadsAPackageNamedOnItsCommandLine) {
         const char* format; // on success
         const char* error;  // on failure
     } cases[] = {
-        {generate(QStringLiteral("cv.qdv"), false), 0, "qdv", nullptr},
-        {generate(QStringLiteral("other.exe"), true), 0, "selfrun", nullptr},
+        {generate("cv.qdv", false), 0, "qdv", nullptr},
+        {generate("other.exe", true), 0, "selfrun", nullptr},
         {QString(), 1, nullptr, "no résumé inside this program"},
         {junk, 1, nullptr, "is not a package"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.package.toStdString());
-        QStringList args{QStringLiteral("--info")};
+        QStringList args{"--info"};
         if (!c.package.isEmpty())
             args.prepend(c.package);
         QByteArray out, err;
@@ -102,33 +99,26 @@ TEST_F(PackagePlayerTest, PlayerReadsAPackageNamedOnItsCommandLine) {
             continue;
         }
         const QJsonObject json = QJsonDocument::fromJson(out).object();
-        EXPECT_EQ(json.value(QStringLiteral("Format")).toString(), QLatin1String(c.format));
-        EXPECT_EQ(
-            json.value(QStringLiteral("Profile")).toObject().value(QStringLiteral("FirstName")),
-            QStringLiteral("Grace"));
+        EXPECT_EQ(json.value("Format").toString(), QLatin1String(c.format));
+        EXPECT_EQ(json.value("Profile").toObject().value("FirstName"), "Grace");
     }
 }
 
 TEST_F(PackagePlayerTest, CliInfoAndUnpackOfPackages) {
-    const QString qdv = generate(QStringLiteral("cv.qdv"), false);
-    const QString exe = generate(QStringLiteral("cv.exe"), true);
+    const QString qdv = generate("cv.qdv", false);
+    const QString exe = generate("cv.exe", true);
     QByteArray out, err;
-    ASSERT_EQ(RunCli({QStringLiteral("info"), exe}, &out, &err), 0) << err.toStdString();
+    ASSERT_EQ(RunCli({"info", exe}, &out, &err), 0) << err.toStdString();
     EXPECT_EQ(QJsonDocument::fromJson(out).object(),
               PackageToJson(ParsePackage(ReadAll(exe), PackageForm::SelfRun)));
     // --as overrides the extension.
-    const QString renamed = box.path(QStringLiteral("cv.bin"));
+    const QString renamed = box.path("cv.bin");
     ASSERT_TRUE(QFile::copy(qdv, renamed));
-    ASSERT_EQ(
-        RunCli({QStringLiteral("info"), renamed, QStringLiteral("--as"), QStringLiteral("qdv")},
-               &out, &err),
-        0)
-        << err.toStdString();
-    EXPECT_EQ(QJsonDocument::fromJson(out).object().value(QStringLiteral("Format")),
-              QStringLiteral("qdv"));
+    ASSERT_EQ(RunCli({"info", renamed, "--as", "qdv"}, &out, &err), 0) << err.toStdString();
+    EXPECT_EQ(QJsonDocument::fromJson(out).object().value("Format"), "qdv");
 
-    const QString dir = box.path(QStringLiteral("blobs"));
-    ASSERT_EQ(RunCli({QStringLiteral("unpack"), exe, dir}, &out, &err), 0) << err.toStdString();
+    const QString dir = box.path("blobs");
+    ASSERT_EQ(RunCli({"unpack", exe, dir}, &out, &err), 0) << err.toStdString();
     const PackageContents p = ParsePackage(ReadAll(exe), PackageForm::SelfRun);
     QStringList expected;
     for (int entry = 0; entry < 19; ++entry)
@@ -143,7 +133,7 @@ TEST_F(PackagePlayerTest, CliInfoAndUnpackOfPackages) {
     QByteArray damaged = ReadAll(qdv);
     damaged.chop(1);
     ASSERT_TRUE(WriteAll(qdv, damaged));
-    EXPECT_EQ(RunCli({QStringLiteral("info"), qdv}, &out, &err), 1);
+    EXPECT_EQ(RunCli({"info", qdv}, &out, &err), 1);
     EXPECT_TRUE(err.contains("entry 18")) << err.toStdString();
     EXPECT_TRUE(QJsonDocument::fromJson(out).isObject());
 }

@@ -18,17 +18,17 @@ namespace {
 class PackageReaderTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(WriteAll(box.path(QStringLiteral("icon.png")), icon));
-        ASSERT_TRUE(WriteAll(box.path(QStringLiteral("song.mp3")), music));
-        doc->Tabs[3].Icon = box.path(QStringLiteral("icon.png"));
-        doc->Header.BackMusic = box.path(QStringLiteral("song.mp3"));
+        ASSERT_TRUE(WriteAll(box.path("icon.png"), icon));
+        ASSERT_TRUE(WriteAll(box.path("song.mp3"), music));
+        doc->Tabs[3].Icon = box.path("icon.png");
+        doc->Header.BackMusic = box.path("song.mp3");
         doc->Header.BackPicture.clearToNul();
-        doc->Tabs[4].Name = QStringLiteral("Hobbies");
-        doc->Profile.LastName = QStringLiteral("Lovelace");
+        doc->Tabs[4].Name = "Hobbies";
+        doc->Profile.LastName = "Lovelace";
         gen.setPlayer(FakePlayer());
     }
     QByteArray generate(bool selfRun) {
-        const QString out = box.path(QStringLiteral("pkg"));
+        const QString out = box.path("pkg");
         EXPECT_EQ(gen.writePackage(*doc, out, selfRun), ResumeGenerator::Outcome::Written);
         return ReadAll(out);
     }
@@ -111,17 +111,16 @@ TEST_F(PackageReaderTest, DamagedPackagesAreReported) {
 TEST_F(PackageReaderTest, JsonCarriesFormEntriesRecordsAndTabNames) {
     const PackageContents p = ParsePackage(generate(true), PackageForm::SelfRun);
     const QJsonObject json = PackageToJson(p);
-    EXPECT_EQ(json.value(QStringLiteral("Format")).toString(), QStringLiteral("selfrun"));
-    const QJsonArray entries = json.value(QStringLiteral("Entries")).toArray();
+    EXPECT_EQ(json.value("Format").toString(), "selfrun");
+    const QJsonArray entries = json.value("Entries").toArray();
     ASSERT_EQ(entries.size(), 19);
-    EXPECT_EQ(entries[10].toObject().value(QStringLiteral("Kind")).toInt(), 2);
-    EXPECT_EQ(entries[10].toObject().value(QStringLiteral("Length")).toInt(), music.size());
-    EXPECT_EQ(entries[3].toObject().value(QStringLiteral("Position")).toInt(), 526105);
-    const QJsonArray names = json.value(QStringLiteral("TabNames")).toArray();
+    EXPECT_EQ(entries[10].toObject().value("Kind").toInt(), 2);
+    EXPECT_EQ(entries[10].toObject().value("Length").toInt(), music.size());
+    EXPECT_EQ(entries[3].toObject().value("Position").toInt(), 526105);
+    const QJsonArray names = json.value("TabNames").toArray();
     ASSERT_EQ(names.size(), 7);
-    EXPECT_EQ(names[3].toString(), QStringLiteral("Hobbies"));
-    EXPECT_EQ(json.value(QStringLiteral("Profile")).toObject().value(QStringLiteral("LastName")),
-              QStringLiteral("Lovelace"));
+    EXPECT_EQ(names[3].toString(), "Hobbies");
+    EXPECT_EQ(json.value("Profile").toObject().value("LastName"), "Lovelace");
 }
 
 TEST(PackageBlobNames, NameSaysEntryContentAndFormat) {

@@ -23,30 +23,30 @@ constexpr int Player = 524288;
 class PackageWriterTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(QDir(box.dir.path()).mkpath(QStringLiteral("media")));
-        media(QStringLiteral("face.png"), PictureBytes(300, 100, 0xff336699));
-        media(QStringLiteral("one.png"), PictureBytes(16, 16, 0xff000000));
-        media(QStringLiteral("two.png"), icon2);
-        media(QStringLiteral("five.ico"), icon5);
-        media(QStringLiteral("eight.png"), icon8);
-        media(QStringLiteral("back.jpg"), PictureBytes(40, 30, 0xffcc0000, "JPEG"));
-        media(QStringLiteral("song.mp3"), music);
-        doc->Profile.UserIcon = QStringLiteral("media/face.png");
-        doc->Tabs[1].Icon = QStringLiteral("media/one.png");
-        doc->Tabs[2].Icon = QStringLiteral("media/two.png");
-        doc->Tabs[5].Icon = QStringLiteral("media/five.ico");
-        doc->Tabs[8].Icon = QStringLiteral("media/eight.png");
-        doc->Header.BackPicture = QStringLiteral("media/back.jpg");
-        doc->Header.BackMusic = QStringLiteral("media/song.mp3");
-        doc->Profile.FirstName = QStringLiteral("Ada");
-        ASSERT_TRUE(SaveScript(*doc, box.path(QStringLiteral("cv.qds"))));
-        project = ReadAll(box.path(QStringLiteral("cv.qds")));
+        ASSERT_TRUE(QDir(box.dir.path()).mkpath("media"));
+        media("face.png", PictureBytes(300, 100, 0xff336699));
+        media("one.png", PictureBytes(16, 16, 0xff000000));
+        media("two.png", icon2);
+        media("five.ico", icon5);
+        media("eight.png", icon8);
+        media("back.jpg", PictureBytes(40, 30, 0xffcc0000, "JPEG"));
+        media("song.mp3", music);
+        doc->Profile.UserIcon = "media/face.png";
+        doc->Tabs[1].Icon = "media/one.png";
+        doc->Tabs[2].Icon = "media/two.png";
+        doc->Tabs[5].Icon = "media/five.ico";
+        doc->Tabs[8].Icon = "media/eight.png";
+        doc->Header.BackPicture = "media/back.jpg";
+        doc->Header.BackMusic = "media/song.mp3";
+        doc->Profile.FirstName = "Ada";
+        ASSERT_TRUE(SaveScript(*doc, box.path("cv.qds")));
+        project = ReadAll(box.path("cv.qds"));
         gen.setPlayer(FakePlayer());
     }
     void media(const QString& name, const QByteArray& bytes) {
         ASSERT_TRUE(WriteAll(box.path(QStringLiteral("media/") + name), bytes));
     }
-    QByteArray generate(bool selfRun, const QString& name = QStringLiteral("out.pkg")) {
+    QByteArray generate(bool selfRun, const QString& name = "out.pkg") {
         const QString out = box.path(name);
         EXPECT_EQ(gen.writePackage(*doc, out, selfRun), ResumeGenerator::Outcome::Written);
         return ReadAll(out);
@@ -116,8 +116,8 @@ TEST_F(PackageWriterTest, DataFileHoldsTheProjectRecordsAndContiguousBlobs) {
 }
 
 TEST_F(PackageWriterTest, SelfRunningFormIsThePlayerFollowedByTheShiftedPackage) {
-    const QByteArray qdv = generate(false, QStringLiteral("cv.qdv"));
-    const QByteArray exe = generate(true, QStringLiteral("cv.exe"));
+    const QByteArray qdv = generate(false, "cv.qdv");
+    const QByteArray exe = generate(true, "cv.exe");
     ASSERT_EQ(exe.size(), qdv.size() + Player);
     EXPECT_EQ(exe.left(Player), FakePlayer());
     EXPECT_EQ(entryAt(exe, Player, 0).position, 526105);
@@ -128,7 +128,7 @@ TEST_F(PackageWriterTest, SelfRunningFormIsThePlayerFollowedByTheShiftedPackage)
         EXPECT_EQ(e.position, d.position ? d.position + Player : 0) << "entry " << i;
     }
     EXPECT_EQ(exe.mid(Player + 228), qdv.mid(228));
-    EXPECT_TRUE(QFile::permissions(box.path(QStringLiteral("cv.exe"))) & QFileDevice::ExeOwner);
+    EXPECT_TRUE(QFile::permissions(box.path("cv.exe")) & QFileDevice::ExeOwner);
 }
 
 TEST_F(PackageWriterTest, CountsAreWrittenAsTheyStandInMemory) {
@@ -151,13 +151,13 @@ TEST_F(PackageWriterTest, UnreadableSourceAppendsThePreviousBuffer) {
     };
     const QList<Case> cases{
         {"music after the background", false, 10,
-         [](Document& d) { d.Header.BackMusic = QStringLiteral("media/none.mp3"); }, 9},
+         [](Document& d) { d.Header.BackMusic = "media/none.mp3"; }, 9},
         {"tab icon after another icon", false, 5,
-         [](Document& d) { d.Tabs[5].Icon = QStringLiteral("media/none.ico"); }, 2},
+         [](Document& d) { d.Tabs[5].Icon = "media/none.ico"; }, 2},
         {"first icon of a data file", false, 0,
-         [](Document& d) { d.Profile.UserIcon = QStringLiteral("media/none.png"); }, -2},
+         [](Document& d) { d.Profile.UserIcon = "media/none.png"; }, -2},
         {"first icon of a self-running file", true, 0,
-         [](Document& d) { d.Profile.UserIcon = QStringLiteral("media/none.png"); }, -1},
+         [](Document& d) { d.Profile.UserIcon = "media/none.png"; }, -1},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -173,9 +173,8 @@ TEST_F(PackageWriterTest, UnreadableSourceAppendsThePreviousBuffer) {
                       : ResolvePath(broken->ScriptPath,
                                     c.entry == 10 ? broken->Header.BackMusic.trimNull()
                                                   : broken->Tabs[c.entry].Icon.trimNull());
-        local.expectWarning(QStringLiteral("Error"),
-                            QStringLiteral("Can't find the file: ") + missing);
-        const QString out = box.path(QStringLiteral("broken.pkg"));
+        local.expectWarning("Error", QStringLiteral("Can't find the file: ") + missing);
+        const QString out = box.path("broken.pkg");
         ASSERT_EQ(fresh.writePackage(*broken, out, c.selfRun), ResumeGenerator::Outcome::Written);
         EXPECT_PROMPTS_DONE(local);
 
@@ -198,8 +197,8 @@ TEST_F(PackageWriterTest, UnreadableSourceAppendsThePreviousBuffer) {
 }
 
 TEST_F(PackageWriterTest, PathsAreTidiedOnlyAfterTheRecordsWereWritten) {
-    doc->Profile.UserIcon = QStringLiteral("  media/face.png");
-    doc->Header.BackMusic = QStringLiteral(" media/song.mp3");
+    doc->Profile.UserIcon = "  media/face.png";
+    doc->Header.BackMusic = " media/song.mp3";
     const QByteArray qdv = generate(false);
     EXPECT_TRUE(qdv.mid(792, 16).startsWith("  media/face.png"));
     EXPECT_TRUE(qdv.mid(228 + 20, 16).startsWith(" media/song.mp3"));
@@ -209,7 +208,7 @@ TEST_F(PackageWriterTest, PathsAreTidiedOnlyAfterTheRecordsWereWritten) {
 }
 
 TEST_F(PackageWriterTest, FailuresToWriteShowTheWriteError) {
-    const QByteArray full = generate(false, QStringLiteral("full.qdv"));
+    const QByteArray full = generate(false, "full.qdv");
     struct Case {
         const char* name;
         QString path;
@@ -218,14 +217,10 @@ TEST_F(PackageWriterTest, FailuresToWriteShowTheWriteError) {
         qint64 limit; // the last 1-based position a blob may start at
     };
     const QList<Case> cases{
-        {"last byte at the limit", box.path(QStringLiteral("at.qdv")), false, FakePlayer(),
-         full.size()},
-        {"one past the limit", box.path(QStringLiteral("past.qdv")), false, FakePlayer(),
-         full.size() - 1},
-        {"folder missing", box.path(QStringLiteral("no/such/folder/cv.qdv")), false, FakePlayer(),
-         0},
-        {"player of the wrong size", box.path(QStringLiteral("cv.exe")), true,
-         FakePlayer().left(1000), 0},
+        {"last byte at the limit", box.path("at.qdv"), false, FakePlayer(), full.size()},
+        {"one past the limit", box.path("past.qdv"), false, FakePlayer(), full.size() - 1},
+        {"folder missing", box.path("no/such/folder/cv.qdv"), false, FakePlayer(), 0},
+        {"player of the wrong size", box.path("cv.exe"), true, FakePlayer().left(1000), 0},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -236,7 +231,7 @@ TEST_F(PackageWriterTest, FailuresToWriteShowTheWriteError) {
             failing.setPositionLimit(c.limit);
         const bool fits = c.limit == full.size();
         if (!fits)
-            local.expectWarning(QStringLiteral("Generate QDV Error"),
+            local.expectWarning("Generate QDV Error",
                                 QStringLiteral("Can't create file : ") + c.path);
         EXPECT_EQ(failing.writePackage(*doc, c.path, c.selfRun),
                   fits ? ResumeGenerator::Outcome::Written : ResumeGenerator::Outcome::Failed);

@@ -30,12 +30,11 @@ protected:
     void SetUp() override {
         // The personal dictionary and the language live in the user's settings (the test
         // ones here), which earlier runs may have filled.
-        QSettings(QStringLiteral("Vitara"), QStringLiteral("Zentor"))
-            .remove(QStringLiteral("spelling"));
-        SaveSpellingLanguage(QStringLiteral("en_US"));
+        QSettings("Vitara", "Zentor").remove("spelling");
+        SaveSpellingLanguage("en_US");
         doc = sandbox.newDocument();
-        TextElement& t = PlaceText(*doc, 1, 7, QRect(20, 20, 300, 100),
-                                   QStringLiteral("Quorvix recieved the award."));
+        TextElement& t =
+            PlaceText(*doc, 1, 7, QRect(20, 20, 300, 100), "Quorvix recieved the award.");
         t.FontColor = int32_t(0xFF000000);
         window = std::make_unique<FrmMain>(*doc, sandbox.ctx, prompter, res);
         window->formLoad();
@@ -46,10 +45,7 @@ protected:
         ASSERT_NE(check, nullptr);
     }
 
-    void TearDown() override {
-        QSettings(QStringLiteral("Vitara"), QStringLiteral("Zentor"))
-            .remove(QStringLiteral("spelling"));
-    }
+    void TearDown() override { QSettings("Vitara", "Zentor").remove("spelling"); }
 
     // The wavy underlines of the first paragraph of a box: (start, length) each.
     static QList<QPair<int, int>> Underlined(QPlainTextEdit* box) {
@@ -69,20 +65,20 @@ protected:
 };
 
 TEST_F(CheckWindowTest, ChoosingAFindingShowsItsPageAndSelectsItsObject) {
-    QAction* item = window->findChild<QAction*>(QStringLiteral("SubEditCheck"));
+    QAction* item = window->findChild<QAction*>("SubEditCheck");
     ASSERT_NE(item, nullptr);
-    EXPECT_EQ(item->text(), QStringLiteral("Check Résumé..."));
+    EXPECT_EQ(item->text(), "Check Résumé...");
     EXPECT_EQ(item->shortcut(), QKeySequence(Qt::Key_F7));
     item->trigger();
     ASSERT_TRUE(check->panel().isVisible());
 
-    auto* list = window->findChild<QTreeWidget*>(QStringLiteral("LstFindings"));
+    auto* list = window->findChild<QTreeWidget*>("LstFindings");
     QTreeWidgetItem* row = nullptr;
     for (int i = 0; i < list->topLevelItemCount(); ++i)
         if (list->topLevelItem(i)->text(3).contains(QLatin1String("\"recieved\"")))
             row = list->topLevelItem(i);
     ASSERT_NE(row, nullptr);
-    EXPECT_EQ(row->text(0), QStringLiteral("Personal"));
+    EXPECT_EQ(row->text(0), "Personal");
     emit list->itemClicked(row, 0);
     EXPECT_EQ(window->editor().state().CurrentTab, 7);
     EXPECT_EQ(window->editor().state().SelectedKind, 2);
@@ -91,19 +87,19 @@ TEST_F(CheckWindowTest, ChoosingAFindingShowsItsPageAndSelectsItsObject) {
 
 TEST_F(CheckWindowTest, MisspeltWordsAreUnderlinedUntilAccepted) {
     window->editor().state().SelectedIndex = 1;
-    auto* box = window->findChild<QPlainTextEdit*>(QStringLiteral("TxtWord"));
+    auto* box = window->findChild<QPlainTextEdit*>("TxtWord");
     ASSERT_NE(box, nullptr);
-    box->setPlainText(QStringLiteral("Quorvix acheived the awward."));
+    box->setPlainText("Quorvix acheived the awward.");
     // The person's name is never underlined.
     EXPECT_EQ(Underlined(box), (QList<QPair<int, int>>{{8, 8}, {21, 6}}));
 
-    check->spelling().ignore(QStringLiteral("awward"));
+    check->spelling().ignore("awward");
     EXPECT_EQ(Underlined(box), (QList<QPair<int, int>>{{8, 8}}));
-    check->spelling().addToDictionary(QStringLiteral("acheived"));
+    check->spelling().addToDictionary("acheived");
     EXPECT_TRUE(Underlined(box).isEmpty());
     // Ignoring lasts the session; the dictionary is kept.
-    EXPECT_TRUE(PersonalWords().contains(QStringLiteral("acheived")));
-    EXPECT_FALSE(PersonalWords().contains(QStringLiteral("awward")));
+    EXPECT_TRUE(PersonalWords().contains("acheived"));
+    EXPECT_FALSE(PersonalWords().contains("awward"));
 }
 
 TEST_F(CheckWindowTest, AOneLineBoxUnderlinesAsItsTextChangesNotAsItsCursorMoves) {
@@ -126,30 +122,29 @@ TEST_F(CheckWindowTest, AOneLineBoxUnderlinesAsItsTextChangesNotAsItsCursorMoves
             }
         return std::pair(first, last);
     };
-    box.setText(QStringLiteral("Objectve and pages"));
+    box.setText("Objectve and pages");
     const auto underlined = red();
     ASSERT_GE(underlined.first, 0);
     box.setCursorPosition(2);
     box.setCursorPosition(15);
     EXPECT_EQ(red(), underlined);
-    box.setText(QStringLiteral("Pages and objectve"));
+    box.setText("Pages and objectve");
     EXPECT_GT(red().first, underlined.second);
-    box.setText(QStringLiteral("Pages and objectives"));
+    box.setText("Pages and objectives");
     EXPECT_EQ(red().first, -1);
 }
 
 TEST_F(CheckWindowTest, AWrittenPackageLeavesTheCountInTheStatusBar) {
-    const QString path = sandbox.path(QStringLiteral("cv.qdv"));
+    const QString path = sandbox.path("cv.qdv");
     prompter.expectFile(true, "Generate QDV File", "*.qdv|*.qdv", path);
     window->toolbarAction(CmdGenerateQdv)->trigger();
     // Counted on a worker: the window goes on meanwhile.
-    const auto* panel = window->findChild<QLabel*>(QStringLiteral("StatusPanel1"));
+    const auto* panel = window->findChild<QLabel*>("StatusPanel1");
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel->text().contains(QLatin1String("remain")); }));
     // Six pages are empty and one word is misspelt; said after what was written.
     const QString status = panel->text();
     EXPECT_TRUE(status.startsWith(QLatin1String("Wrote cv.qdv"))) << status.toStdString();
-    EXPECT_TRUE(status.endsWith(
-        QStringLiteral("; 7 findings remain: Edit > Check Résumé... (F7) lists them")))
+    EXPECT_TRUE(status.endsWith("; 7 findings remain: Edit > Check Résumé... (F7) lists them"))
         << status.toStdString();
 }
 

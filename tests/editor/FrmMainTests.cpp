@@ -272,14 +272,6 @@ TEST_F(WindowTest, APageChangeStoresTheNameBeingTyped) {
     EXPECT_EQ(state().CurrentTab, 6);
 }
 
-TEST_F(WindowTest, DeleteKeyAsksBeforeDeletingTheSelectedText) {
-    const int slot = insertText(QRect(10, 10, 100, 50));
-    prompter.expectQuestion("Delete Text", "Are you sure to delete text 1?", Prompter::Answer::Yes);
-    QTest::keyClick(window.get(), Qt::Key_Delete);
-    EXPECT_EQ(doc->Texts[slot].TabNo, 0);
-    EXPECT_EQ(list->count(), 1);
-}
-
 TEST_F(WindowTest, ALargeFrameScrollsByMovingTheWorkspace) {
     auto big = sandbox.newDocument();
     big->Header.FrameWidth = 2000;
@@ -374,7 +366,7 @@ TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
     EXPECT_TRUE(QFileInfo::exists(path));
 }
 
-TEST_F(WindowTest, WorkspaceKeysNudgeAndStepAndTheEditMenuUndoesByName) {
+TEST_F(WindowTest, WorkspaceKeysNudgeStepAndDeleteAndTheEditMenuUndoesByName) {
     const int slot = insertText({100, 100, 60, 20});
     ws->setFocus();
     QTest::keyClick(ws, Qt::Key_Right, Qt::ShiftModifier);
@@ -399,6 +391,11 @@ TEST_F(WindowTest, WorkspaceKeysNudgeAndStepAndTheEditMenuUndoesByName) {
     QTest::keyClick(ws, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(state().CurrentRow, row);
     EXPECT_EQ(state().SelectedIndex, slot);
+
+    prompter.expectQuestion("Delete Text", "Are you sure to delete text 1?", Prompter::Answer::Yes);
+    QTest::keyClick(window.get(), Qt::Key_Delete);
+    EXPECT_EQ(doc->Texts[slot].TabNo, 0);
+    EXPECT_EQ(list->count(), 1);
 }
 
 TEST_F(WindowTest, CollectMediaFromTheFileMenuCopiesBesideTheProject) {
