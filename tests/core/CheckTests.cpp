@@ -27,7 +27,7 @@ std::unique_ptr<Document> CleanDocument(const Sandbox& box) {
     doc->Header.BackMusic = QString();
     for (int tab = 1; tab <= 7; ++tab) {
         TextElement& t = PlaceText(*doc, tab, tab, QRect(20, 20, 300, 100),
-                                   QStringLiteral("A correct sentence about the work."));
+                                   "A correct sentence about the work.");
         t.FontColor = int32_t(0xFF000000);
         t.FontShadow = 0;
     }
@@ -36,7 +36,7 @@ std::unique_ptr<Document> CleanDocument(const Sandbox& box) {
 
 std::unique_ptr<SpellChecker> OpenUs() {
     QString error;
-    auto speller = SpellChecker::open(QStringLiteral("en_US"), &error);
+    auto speller = SpellChecker::open("en_US", &error);
     EXPECT_TRUE(speller) << error.toStdString();
     return speller;
 }
@@ -83,14 +83,14 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
     const Case cases[] = {
         {"correct sentences, black on white", [](Document&) {}, {}},
         {"a misspelt word",
-         [&](Document& d) { text(d, 3).Text = QStringLiteral("I recieved an award."); },
+         [&](Document& d) { text(d, 3).Text = "I recieved an award."; },
          {{K::Spelling, 3}}},
         {"a misspelt page name",
-         [](Document& d) { d.Tabs[6].Name = QStringLiteral("Objectve"); },
+         [](Document& d) { d.Tabs[6].Name = "Objectve"; },
          {{K::Spelling, 6}}},
         {"the person's names, addresses and numbers",
          [&](Document& d) {
-             d.Profile.Address = QStringLiteral("12 Brynmawrstraat");
+             d.Profile.Address = "12 Brynmawrstraat";
              text(d, 2).Text = QStringLiteral(
                  "Quorvix Vitara (quorvix@zentorbox.example, www.qvitara.example, "
                  "qvitara.example/cv) lives at Brynmawrstraat, built 3D models in 2024.");
@@ -98,15 +98,15 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
          {}},
         {"more lines than the box holds",
          [&](Document& d) {
-             text(d, 4).Text = QStringLiteral("One line.\nTwo lines.\nThree lines.\nFour.");
+             text(d, 4).Text = "One line.\nTwo lines.\nThree lines.\nFour.";
              text(d, 4).Height = 30;
          },
          {{K::Overflow, 4}}},
         {"a word wider than its box",
          [&](Document& d) {
-             text(d, 5).Text = QStringLiteral("Internationalisation");
+             text(d, 5).Text = "Internationalisation";
              text(d, 5).Width = 40;
-             d.Profile.Address = QStringLiteral("Internationalisation"); // spelling aside
+             d.Profile.Address = "Internationalisation"; // spelling aside
          },
          {{K::Overflow, 5}}},
         {"light grey on white",
@@ -192,18 +192,18 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
 TEST(Check, TellsWhichWordAndWhereWithSuggestionsInTheDictionarysOrder) {
     Sandbox box;
     auto doc = CleanDocument(box);
-    doc->Texts[3].Text = QStringLiteral("Team leader, recieved teh award.");
+    doc->Texts[3].Text = "Team leader, recieved teh award.";
     const auto speller = OpenUs();
     ASSERT_TRUE(speller);
     CheckOptions options;
     options.speller = speller.get();
     const auto findings = CheckDocument(*doc, options);
     ASSERT_EQ(findings.size(), 2u);
-    EXPECT_EQ(findings[0].word, QStringLiteral("recieved"));
+    EXPECT_EQ(findings[0].word, "recieved");
     EXPECT_EQ(findings[0].place, 13);
     EXPECT_EQ(findings[0].objectKind, 2);
     EXPECT_EQ(findings[0].slot, 3);
-    EXPECT_EQ(findings[1].word, QStringLiteral("teh"));
+    EXPECT_EQ(findings[1].word, "teh");
 
     const struct {
         const char* wrong;
@@ -223,14 +223,14 @@ TEST(Check, TellsWhichWordAndWhereWithSuggestionsInTheDictionarysOrder) {
 TEST(Check, PersonalWordsAreAcceptedAndAMissingDictionaryIsNamed) {
     Sandbox box;
     auto doc = CleanDocument(box);
-    doc->Texts[1].Text = QStringLiteral("Built Zentorix pipelines.");
+    doc->Texts[1].Text = "Built Zentorix pipelines.";
     CheckOptions options;
-    options.language = QStringLiteral("en_US");
+    options.language = "en_US";
     EXPECT_EQ(KindsAndTabs(CheckDocument(*doc, options)), (Seen{{FindingKind::Spelling, 1}}));
-    options.personalWords = {QStringLiteral("zentorix")};
+    options.personalWords = {"zentorix"};
     EXPECT_TRUE(CheckDocument(*doc, options).empty());
 
-    options.language = QStringLiteral("xx_YY");
+    options.language = "xx_YY";
     doc->Texts[2].TabNo = 0;
     const auto findings = CheckDocument(*doc, options);
     // The other kinds are still checked.
@@ -253,7 +253,7 @@ TEST(Check, SpellableWordsLeaveAddressesAndNumbersOut) {
         {"Crème brûlée", {"Crème", "brûlée"}},
         {"Vitara wrote", {"wrote"}},
     };
-    const QSet<QString> exempt{QStringLiteral("vitara")};
+    const QSet<QString> exempt{"vitara"};
     for (const auto& c : cases) {
         const QString text = QString::fromUtf8(c.text);
         QStringList words;
@@ -287,11 +287,11 @@ TEST(Check, ContrastFollowsTheRelativeLuminanceFormula) {
 TEST(CheckCli, PrintsFindingsForPeopleOrAsJsonWithTheExitStatus) {
     Sandbox box;
     // The personal dictionary lives in the user's settings: keep the test's apart.
-    qputenv("XDG_CONFIG_HOME", box.path(QStringLiteral("config")).toUtf8());
+    qputenv("XDG_CONFIG_HOME", box.path("config").toUtf8());
     auto doc = CleanDocument(box);
     ASSERT_TRUE(doc->Tabs[3].Name.text() == QLatin1String("Education"));
-    doc->Texts[3].Text = QStringLiteral("Graduated in managment.");
-    doc->Texts[3].Name = QStringLiteral("Degree");
+    doc->Texts[3].Text = "Graduated in managment.";
+    doc->Texts[3].Name = "Degree";
     const QString bad = box.path("bad.qds"), clean = box.path("clean.qds");
     ASSERT_TRUE(SaveScript(*doc, bad));
     ASSERT_TRUE(SaveScript(*CleanDocument(box), clean));

@@ -18,8 +18,8 @@ IntRect RectOf(const ImageElement& e) {
 TEST(ObjectClipboard, PastesOnlyObjectsOntoContentPagesWithRoomAndOtherwiseChangesNothing) {
     Sandbox box;
     auto source = box.newDocument();
-    PlaceImage(*source, 3, 2, QRect(10, 10, 40, 30), QStringLiteral("a.png"));
-    PlaceText(*source, 5, 2, QRect(10, 10, 40, 30), QStringLiteral("hello"));
+    PlaceImage(*source, 3, 2, QRect(10, 10, 40, 30), "a.png");
+    PlaceText(*source, 5, 2, QRect(10, 10, 40, 30), "hello");
     const QByteArray image = CopyObject(*source, KindImage, 3);
     const QByteArray text = CopyObject(*source, KindText, 5);
     using O = PasteResult::Outcome;
@@ -62,12 +62,12 @@ TEST(ObjectClipboard, PastesOnlyObjectsOntoContentPagesWithRoomAndOtherwiseChang
         EXPECT_EQ(r.slot, c.slot);
         if (r.kind == KindImage) {
             EXPECT_EQ(doc->Images[r.slot].TabNo, c.tab);
-            EXPECT_EQ(doc->Images[r.slot].Name.trimNull(), QStringLiteral("image 1"));
-            EXPECT_EQ(doc->Images[r.slot].FileName.trimNull(), QStringLiteral("a.png"));
+            EXPECT_EQ(doc->Images[r.slot].Name.trimNull(), "image 1");
+            EXPECT_EQ(doc->Images[r.slot].FileName.trimNull(), "a.png");
         } else {
             EXPECT_EQ(doc->Texts[r.slot].TabNo, c.tab);
-            EXPECT_EQ(doc->Texts[r.slot].Name.trimNull(), QStringLiteral("text 1"));
-            EXPECT_EQ(doc->Texts[r.slot].Text.trimNull(), QStringLiteral("hello"));
+            EXPECT_EQ(doc->Texts[r.slot].Name.trimNull(), "text 1");
+            EXPECT_EQ(doc->Texts[r.slot].Text.trimNull(), "hello");
         }
     }
 }
@@ -137,7 +137,7 @@ TEST(EditClipboard, ThePasteIsSelectedAndAFullTableSaysSo) {
     EXPECT_EQ(f.editor.state().SelectedIndex, 2);
     for (int i = 3; i <= MaxImages; ++i)
         PlaceImage(*f.doc, i, 2);
-    f.prompter.expectWarning(QStringLiteral("Paste"), TableFullText(KindImage));
+    f.prompter.expectWarning("Paste", TableFullText(KindImage));
     EXPECT_FALSE(f.editor.paste(f.editor.copySelection()));
     EXPECT_PROMPTS_DONE(f.prompter);
 }

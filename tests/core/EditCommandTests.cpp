@@ -14,7 +14,7 @@ using Pointer = EditorView::Pointer;
 
 namespace {
 
-const QString Filter = QStringLiteral("*.qds|*.qds|*.*|*.*");
+const QString Filter = "*.qds|*.qds|*.*|*.*";
 
 // Without a project the window starts on the default document's profile page (see the window
 // tests); with one it opens it.

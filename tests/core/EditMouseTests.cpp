@@ -126,7 +126,7 @@ TEST(EditMouse, InPlaceEditIsStoredIntoThePageItBelongsTo) {
     ASSERT_TRUE(f.view.inPlace.has_value());
     EXPECT_EQ(*f.view.inPlace, f.doc->Texts[0].Text.text());
     EXPECT_TRUE(f.doc->Dirty); // opening the editor already counts as a change
-    f.view.inPlace = QStringLiteral("Hello");
+    f.view.inPlace = "Hello";
     f.showTab(2);
     EXPECT_EQ(f.doc->Texts[1].Text.text(), "Hello");
     EXPECT_EQ(f.doc->Texts[1].TabNo, 1);

@@ -15,8 +15,7 @@ using Answer = Prompter::Answer;
 namespace {
 
 ProcessContext EditorRun(const Sandbox& box) {
-    return ProcessContext::createPrivate(QStringLiteral(ZENTOR_BIN_DIR), QStringLiteral("zentor"),
-                                         box.dir.path());
+    return ProcessContext::createPrivate(QStringLiteral(ZENTOR_BIN_DIR), "zentor", box.dir.path());
 }
 
 // The work folder an editor with process `pid` would have left when it was killed.
@@ -51,9 +50,9 @@ TEST(Recovery, WorkOfAKilledEditorIsOfferedAtTheNextStartAndOnlyGoneRunsAreClear
         SCOPED_TRACE(answer == Answer::Yes ? "Yes" : "No");
         EditorFixture f;
         auto lost = f.box.newDocument();
-        lost->Profile.FirstName = QStringLiteral("Grace");
-        PlaceText(*lost, 4, 3, QRect(5, 5, 50, 20), QStringLiteral("unsaved"));
-        lost->ScriptPath = f.box.path(QStringLiteral("cv.qds"));
+        lost->Profile.FirstName = "Grace";
+        PlaceText(*lost, 4, 3, QRect(5, 5, 50, 20), "unsaved");
+        lost->ScriptPath = f.box.path("cv.qds");
         lost->Dirty = true;
         const ProcessContext killed = KilledRun(f.box, gonePid, "a1b2c3");
         ASSERT_TRUE(Autosave(*lost, killed));
@@ -63,7 +62,7 @@ TEST(Recovery, WorkOfAKilledEditorIsOfferedAtTheNextStartAndOnlyGoneRunsAreClear
         const QByteArray fresh = SavedBytes(*f.doc);
 
         f.box.ctx = EditorRun(f.box); // the editor starts as a run of its own
-        f.prompter.expectAsk(QStringLiteral("Recover Work"),
+        f.prompter.expectAsk("Recover Work",
                              QStringLiteral("Vitara Zentor did not end normally last time. Do you "
                                             "want to restore the work it had not saved?"),
                              answer);

@@ -14,7 +14,7 @@ QByteArray OnePagePdf() {
     QBuffer out;
     out.open(QIODevice::WriteOnly);
     QPdfWriter writer(&out);
-    QPainter(&writer).drawText(100, 100, QStringLiteral("x"));
+    QPainter(&writer).drawText(100, 100, "x");
     return out.data();
 }
 

@@ -55,7 +55,7 @@ TEST(Progress, EveryLongRunCountsItsPagesAndACancelledOneLeavesNoFile) {
             SCOPED_TRACE(
                 QStringLiteral("%1 cancelled at %2").arg(c.what).arg(stopAt).toStdString());
             Sandbox box;
-            const QString out = box.path(QStringLiteral("out"));
+            const QString out = box.path("out");
             QList<int> seen;
             const bool written = c.job(box, out, [&](int page, int pages) {
                 EXPECT_EQ(pages, c.pages);

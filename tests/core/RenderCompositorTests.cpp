@@ -72,13 +72,13 @@ TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
     PlaceImage(*doc, 3, 4, green, QRect(200, 200, 200, 200));
     PlaceImage(*doc, 5, 6, red, QRect(500, 400, 100, 100));
     // A text in a low slot still lies above a picture in a high one.
-    PlaceText(*doc, 1, 4, QStringLiteral("XXXX"), QRect(210, 210, 180, 80), int(0xFF0000FFu));
+    PlaceText(*doc, 1, 4, "XXXX", QRect(210, 210, 180, 80), int(0xFF0000FFu));
     // A free slot (TabNo 0) with a file is never drawn.
     PlaceImage(*doc, 7, 4, red, QRect(600, 0, 100, 100));
     doc->Images[7].TabNo = 0;
     // The last slot of each table is drawn like any other.
     PlaceImage(*doc, MaxImages, 4, green, QRect(700, 500, 50, 50));
-    PlaceText(*doc, MaxTexts, 4, QStringLiteral("XX"), QRect(500, 20, 90, 60), int(0xFF0000FFu));
+    PlaceText(*doc, MaxTexts, 4, "XX", QRect(500, 20, 90, 60), int(0xFF0000FFu));
 
     const QImage page = RenderPageImage(*doc, 4, res);
     EXPECT_EQ(page.pixel(150, 150), qRgb(255, 0, 0));
@@ -123,25 +123,25 @@ TEST_F(RenderCompositor, BadgeOnlyOnTheSlideShowPage) {
 
 TEST_F(RenderCompositor, RelativePathsFollowTheProject) {
     SolidFile(box, "rel.png", qRgb(0, 128, 0));
-    PlaceImage(*doc, 1, 1, QStringLiteral("rel.png"), QRect(0, 0, 20, 20));
+    PlaceImage(*doc, 1, 1, "rel.png", QRect(0, 0, 20, 20));
     EXPECT_EQ(RenderPageImage(*doc, 1, res).pixel(5, 5), White); // no project folder yet
     doc->ScriptPath = box.path("resume.qds");
     EXPECT_EQ(RenderPageImage(*doc, 1, res).pixel(5, 5), qRgb(0, 128, 0));
 }
 
 TEST_F(RenderCompositor, OutputsAndWriteBack) {
-    doc->Tabs[1].Picture.FileName = QStringLiteral("   pic.png");
+    doc->Tabs[1].Picture.FileName = "   pic.png";
     const QByteArray jpeg = RenderPageJpeg(*doc, 8, res);
     ASSERT_TRUE(jpeg.startsWith("\xFF\xD8"));
     EXPECT_EQ(QImage::fromData(jpeg).size(), QSize(800, 600));
-    EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(10), QStringLiteral("   pic.png"));
+    EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(10), "   pic.png");
 
     // Writing the page trims the path of the tab picture it shows: page 8 shows page 1's.
     for (const int page : {8, 1}) {
-        doc->Tabs[1].Picture.FileName = QStringLiteral("   pic.png");
+        doc->Tabs[1].Picture.FileName = "   pic.png";
         ASSERT_TRUE(RenderPage(*doc, page, res, box.ctx));
         EXPECT_EQ(QImage::fromData(test::ReadAll(box.ctx.TempImagePath)).size(), QSize(800, 600));
-        EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(8), QStringLiteral("pic.png ")) << page;
+        EXPECT_EQ(doc->Tabs[1].Picture.FileName.raw().left(8), "pic.png ") << page;
     }
     // Painting onto another surface: a page outside 1..8 leaves it as it was.
     for (const int page : {0, SlideShowTab + 1}) {
@@ -203,7 +203,7 @@ TEST_F(RenderCompositor, ExtremeGeometryFromADamagedFileIsSurvived) {
     int slot = 1;
     for (const auto& b : boxes) {
         PlaceImage(*doc, slot, 1, red, QRect());
-        PlaceText(*doc, slot, 1, QStringLiteral("far away"), QRect(), -1);
+        PlaceText(*doc, slot, 1, "far away", QRect(), -1);
         ImageElement& img = doc->Images[size_t(slot)];
         TextElement& t = doc->Texts[size_t(slot)];
         img.Left = t.Left = b[0];

@@ -80,21 +80,21 @@ TEST(RenderLayout, LayingOutStoresTheRecord) {
     doc->ScriptPath = box.path("project.qds");
 
     // Relative to the project's folder, blanks trimmed.
-    LayoutTabPicture(*doc, 1, 3, QStringLiteral("  wide.png  "));
+    LayoutTabPicture(*doc, 1, 3, "  wide.png  ");
     const ImageElement& p = doc->Tabs[3].Picture;
-    EXPECT_EQ(p.FileName.text(), QStringLiteral("wide.png"));
+    EXPECT_EQ(p.FileName.text(), "wide.png");
     EXPECT_EQ(p.PicAlign, 1);
     EXPECT_EQ(QRect(p.Left, p.Top, p.Width, p.Height), QRect(0, 100, 800, 400));
     EXPECT_EQ(p.Reserved, -1);
     EXPECT_EQ(doc->Tabs[2].Picture, box.newDocument()->Tabs[2].Picture);
 
     // An unknown mode keeps the rectangle but still takes path and mode.
-    LayoutTabPicture(*doc, 7, 3, QStringLiteral("wide.png"));
+    LayoutTabPicture(*doc, 7, 3, "wide.png");
     EXPECT_EQ(QRect(p.Left, p.Top, p.Width, p.Height), QRect(0, 100, 800, 400));
     EXPECT_EQ(p.PicAlign, 7);
 
     // A missing picture lays out as 0 x 0.
-    LayoutTabPicture(*doc, 3, 3, QStringLiteral("missing.png"));
+    LayoutTabPicture(*doc, 3, 3, "missing.png");
     EXPECT_EQ(QRect(p.Left, p.Top, p.Width, p.Height), QRect(0, 0, 0, 0));
 }
 
@@ -127,7 +127,7 @@ TEST(RenderLayout, HomeCaptionNamesTheHoveredIcon) {
         const char* caption;
     } cases[] = {{0, "Ann Lee"}, {1, "Tab1"}, {8, "Tab8"}, {9, "Ann Lee"}, {-1, "Ann Lee"}};
     for (const auto& c : cases)
-        EXPECT_EQ(HomeCaption(names, QStringLiteral("Ann Lee"), c.hover), c.caption) << c.hover;
+        EXPECT_EQ(HomeCaption(names, "Ann Lee", c.hover), c.caption) << c.hover;
 }
 
 TEST(RenderColor, SpotValuesInListOrder) {
@@ -154,7 +154,7 @@ TEST(RenderColor, SpotValuesInListOrder) {
         EXPECT_EQ(table[size_t(c.index)], c.argb) << c.index;
     }
     EXPECT_EQ(GDIColorNames().size(), GDIColorCount);
-    EXPECT_EQ(GDIColorNames().indexOf(QStringLiteral("White")), 138);
+    EXPECT_EQ(GDIColorNames().indexOf("White"), 138);
     EXPECT_TRUE(GDIColorName(-1).isEmpty());
     EXPECT_TRUE(GDIColorName(146).isEmpty());
     // Every entry but Transparent is opaque; names are unique.

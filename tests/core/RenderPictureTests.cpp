@@ -61,9 +61,9 @@ TEST(RenderPicture, SaveImageAsByEnding) {
         // Blanks around the name stay around the whole path.
         QString path = box.path(c.name.trimmed());
         if (c.name.startsWith(' '))
-            path.prepend(QStringLiteral("  "));
+            path.prepend("  ");
         if (c.name.endsWith(' '))
-            path.append(QStringLiteral("  "));
+            path.append("  ");
         const bool wrote = SaveImageAs(img, path, 95);
         const QByteArray bytes = test::ReadAll(box.path(c.file));
         if (c.magic.isEmpty()) {
@@ -169,7 +169,7 @@ TEST(RenderPicture, HostileFilesAreUnreadable) {
     ASSERT_TRUE(test::WriteAll(box.path("header.jpg"), jpeg.left(20)));
     ASSERT_TRUE(test::WriteAll(box.path("empty.png"), QByteArray()));
     ASSERT_TRUE(test::WriteAll(box.path("noise.bmp"), QByteArray(5000, '\x42')));
-    ASSERT_TRUE(QDir(box.dir.path()).mkdir(QStringLiteral("folder.png")));
+    ASSERT_TRUE(QDir(box.dir.path()).mkdir("folder.png"));
     ASSERT_EQ(mkfifo(QFile::encodeName(box.path("fifo.jpg")).constData(), 0600), 0);
     // A PNG whose header claims 60000 x 60000 pixels (3.6 gigapixels), with its CRC right.
     {

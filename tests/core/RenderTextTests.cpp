@@ -17,9 +17,9 @@ namespace {
 constexpr QRgb Grey = 0xFF808080u;
 
 struct Text {
-    QString text = QStringLiteral("Hamburgefonts");
+    QString text = "Hamburgefonts";
     QRectF box{20, 20, 200, 60};
-    QString font = QStringLiteral("Liberation Sans");
+    QString font = "Liberation Sans";
     int size = 20;
     int style = 0, align = 0, lineAlign = 0;
     uint32_t color = 0xFFFF0000u;
@@ -96,26 +96,26 @@ TEST(RenderText, NothingDrawnWhenItCannotBe) {
     const auto blank = [](Text t) { return Ink(Draw(t)).isNull(); };
     Text t;
     EXPECT_FALSE(blank(t));
-    t.font = QStringLiteral("No Such Family Zq");
+    t.font = "No Such Family Zq";
     EXPECT_TRUE(blank(t));
     t = Text();
-    t.text = QStringLiteral("    ");
+    t.text = "    ";
     EXPECT_TRUE(blank(t));
     t = Text();
     t.size = 0;
     EXPECT_TRUE(blank(t));
     // "Arial" is drawn through its metric-compatible stand-in.
     t = Text();
-    t.font = QStringLiteral("Arial");
+    t.font = "Arial";
     EXPECT_FALSE(blank(t));
-    EXPECT_TRUE(FontFamilyAvailable(QStringLiteral("Arial")));
-    EXPECT_TRUE(FontFamilyAvailable(QStringLiteral("liberation serif")));
-    EXPECT_FALSE(FontFamilyAvailable(QStringLiteral("Wingdings Zq")));
+    EXPECT_TRUE(FontFamilyAvailable("Arial"));
+    EXPECT_TRUE(FontFamilyAvailable("liberation serif"));
+    EXPECT_FALSE(FontFamilyAvailable("Wingdings Zq"));
 }
 
 TEST(RenderText, AlignmentInsideTheBox) {
     Text t;
-    t.text = QStringLiteral("Mid");
+    t.text = "Mid";
     t.box = QRectF(20, 10, 200, 100);
     const struct {
         int align, lineAlign;
@@ -139,13 +139,13 @@ TEST(RenderText, AlignmentInsideTheBox) {
     t.align = 2;
     t.lineAlign = 0;
     const QImage plain = Draw(t);
-    t.text += QStringLiteral("     ");
+    t.text += "     ";
     EXPECT_EQ(Draw(t), plain);
 }
 
 TEST(RenderText, WrapsAndClipsToTheBox) {
     Text t;
-    t.text = QStringLiteral("one two three four five six seven eight nine ten eleven twelve");
+    t.text = "one two three four five six seven eight nine ten eleven twelve";
     t.box = QRectF(30, 10, 100, 40);
     t.shadow = -1;
     const QRect ink = Ink(Draw(t));
@@ -154,18 +154,18 @@ TEST(RenderText, WrapsAndClipsToTheBox) {
     EXPECT_TRUE(QRect(30, 10, 101, 41).contains(ink))
         << ink.x() << "," << ink.y() << " " << ink.width() << "x" << ink.height();
     // A word wider than the box is broken rather than sticking out.
-    t.text = QStringLiteral("Supercalifragilisticexpialidocious");
+    t.text = "Supercalifragilisticexpialidocious";
     t.shadow = 0;
     EXPECT_TRUE(QRect(30, 10, 100, 40).contains(Ink(Draw(t))));
     // Line breaks in the text start new lines.
-    t.text = QStringLiteral("a\r\nb\nc");
+    t.text = "a\r\nb\nc";
     t.box = QRectF(30, 10, 100, 100);
     EXPECT_GT(Ink(Draw(t)).height(), 3 * 20);
 }
 
 TEST(RenderText, SizedInPointsAt96DpiOnEverySurface) {
     Text t;
-    t.text = QStringLiteral("H");
+    t.text = "H";
     t.size = 36; // 48 pixels; a capital H is about 0.72 em high
     const QRect at96 = Ink(Draw(t, Grey, 3780));
     EXPECT_NEAR(at96.height(), 48 * 0.72, 3);
@@ -175,7 +175,7 @@ TEST(RenderText, SizedInPointsAt96DpiOnEverySurface) {
 TEST(RenderText, HintsChooseAntialiasing) {
     Text t;
     t.color = 0xFF000000u;
-    t.text = QStringLiteral("Antialiasing wavy ovals");
+    t.text = "Antialiasing wavy ovals";
     const auto levels = [&](int hint) {
         t.hint = hint;
         const QImage img = Draw(t, 0xFFFFFFFFu);
@@ -202,7 +202,7 @@ TEST(RenderText, HintsChooseAntialiasing) {
 
 TEST(RenderText, UnderlineSpansTheText) {
     Text t;
-    t.text = QStringLiteral("HHH HHH");
+    t.text = "HHH HHH";
     t.style = 2; // italic, centred: where decorations went astray before
     t.align = 1;
     const QRect plain = Ink(Draw(t));
@@ -237,18 +237,18 @@ TEST(RenderText, InkWidthScalesWithTheSize) {
 TEST(RenderText, LinePitchIsTheFontsLineSpacing) {
     // Eleven lines, 2355/2048 em apart; a drawn H on the first and the last line.
     Text t;
-    t.font = QStringLiteral("Arial");
+    t.font = "Arial";
     t.box = QRectF(4, 4, 200, 250);
     t.canvas = QSize(240, 260);
     for (const int size : {8, 11, 12}) {
         const double pitch = Em(size) * 2355 / 2048;
-        const TextBoxLayout box = LayoutTextBox(QStringLiteral("a\nb\nc\nd\ne\nf\ng\nh\ni\nj\nk"),
-                                                4, 4, 200, 250, t.font, size, 0, 0, 0);
+        const TextBoxLayout box =
+            LayoutTextBox("a\nb\nc\nd\ne\nf\ng\nh\ni\nj\nk", 4, 4, 200, 250, t.font, size, 0, 0, 0);
         ASSERT_EQ(box.linesTotal, 11);
         EXPECT_NEAR(box.lineHeight, pitch, 1e-3) << size;
         EXPECT_NEAR(box.lines[10].rect.top() - box.lines[0].rect.top(), 10 * pitch, 1e-3) << size;
         t.size = size;
-        t.text = QStringLiteral("H");
+        t.text = "H";
         const int oneH = Ink(Draw(t)).height();
         t.text = QStringLiteral("H") + QString(10, QLatin1Char('\n')) + QStringLiteral("H");
         EXPECT_NEAR(Ink(Draw(t)).height() - oneH, 10 * pitch, 1.0) << size;
@@ -259,14 +259,14 @@ TEST(RenderText, WrapPointAtAFractionalSize) {
     // At 11 pt (14.67 px) "The quick brown fox" is 18327/2048 em wide, 131.25 px, and a line
     // keeps a sixth of an em free at each end: it fits a box of 136.14 px. At a rounded 15 px
     // it would need 139.2 px.
-    const QString sentence = QStringLiteral("The quick brown fox jumps over the lazy dog");
+    const QString sentence = "The quick brown fox jumps over the lazy dog";
     const struct {
         double width;
         int firstLine; // characters, the blank after the last word included
     } cases[] = {{135, 16}, {136.5, 20}, {139, 20}, {170, 20}};
     for (const auto& c : cases) {
         const TextBoxLayout box =
-            LayoutTextBox(sentence, 10, 10, c.width, 200, QStringLiteral("Arial"), 11, 0, 0, 0);
+            LayoutTextBox(sentence, 10, 10, c.width, 200, "Arial", 11, 0, 0, 0);
         ASSERT_FALSE(box.lines.empty());
         EXPECT_EQ(box.lines[0].start, 0);
         EXPECT_EQ(box.lines[0].length, c.firstLine) << c.width;
@@ -275,7 +275,7 @@ TEST(RenderText, WrapPointAtAFractionalSize) {
 }
 
 TEST(RenderText, LayoutTellsWhatFits) {
-    const QString font = QStringLiteral("Arial"); // 11 pt: lines 16.87 px apart
+    const QString font = "Arial"; // 11 pt: lines 16.87 px apart
     const struct {
         QString text;
         double height;
@@ -283,12 +283,12 @@ TEST(RenderText, LayoutTellsWhatFits) {
         int total, visible;
         bool tooWide;
     } cases[] = {
-        {QStringLiteral("one two three"), 20, 0, 1, 1, false},
-        {QStringLiteral("one two three four five six seven"), 40, 0, 3, 2, false},
-        {QStringLiteral("one two three four five six seven"), 0, 0, 3, 3, false},
+        {"one two three", 20, 0, 1, 1, false},
+        {"one two three four five six seven", 40, 0, 3, 2, false},
+        {"one two three four five six seven", 0, 0, 3, 3, false},
         // Centred and too tall: only the middle line lies wholly inside.
-        {QStringLiteral("one two three four five six seven"), 20, 1, 3, 1, false},
-        {QStringLiteral("one Supercalifragilisticexpialidocious"), 100, 0, 4, 4, true},
+        {"one two three four five six seven", 20, 1, 3, 1, false},
+        {"one Supercalifragilisticexpialidocious", 100, 0, 4, 4, true},
     };
     for (const auto& c : cases) {
         const TextBoxLayout box =
@@ -299,14 +299,12 @@ TEST(RenderText, LayoutTellsWhatFits) {
     }
     // Line ranges index the text as given: a CR LF pair is two characters of its line.
     const TextBoxLayout breaks =
-        LayoutTextBox(QStringLiteral("ab\r\ncd\ref   "), 10, 10, 100, 100, font, 11, 0, 0, 0);
+        LayoutTextBox("ab\r\ncd\ref   ", 10, 10, 100, 100, font, 11, 0, 0, 0);
     ASSERT_EQ(breaks.lines.size(), 3u);
     const int ranges[3][2] = {{0, 4}, {4, 3}, {7, 2}};
     for (size_t i = 0; i < 3; ++i) {
         EXPECT_EQ(breaks.lines[i].start, ranges[i][0]) << i;
         EXPECT_EQ(breaks.lines[i].length, ranges[i][1]) << i;
     }
-    EXPECT_TRUE(LayoutTextBox(QStringLiteral("x"), 0, 0, 100, 100, QStringLiteral("No Such Zq"), 11,
-                              0, 0, 0)
-                    .lines.empty());
+    EXPECT_TRUE(LayoutTextBox("x", 0, 0, 100, 100, "No Such Zq", 11, 0, 0, 0).lines.empty());
 }

@@ -32,7 +32,7 @@ struct RenderWorkspace : ::testing::Test {
     ResImages res;
     RenderWorkspace() {
         // A program folder of our own, with a default background beside it.
-        QDir(box.dir.path()).mkpath(QStringLiteral("app/Res"));
+        QDir(box.dir.path()).mkpath("app/Res");
         Solid({64, 48}, qRgb(0, 90, 0)).save(box.path("app/Res/bakpic.jpg"), "JPEG", 100);
         ctx = ProcessContext::create(box.path("app"), box.path("tmp"));
         doc = std::make_unique<Document>();
@@ -132,13 +132,13 @@ TEST_F(RenderWorkspace, ProfilePageRingCaptionAndIcons) {
 }
 
 TEST_F(RenderWorkspace, ProfileWriteBacks) {
-    doc->Profile.FirstName = QStringLiteral("  Ada");
-    doc->Tabs[2].Name = QStringLiteral("  Awards");
+    doc->Profile.FirstName = "  Ada";
+    doc->Tabs[2].Name = "  Awards";
     PaintWorkspace(*doc, 0, 2, res, ctx);
-    EXPECT_EQ(doc->Tabs[2].Name.raw().left(7), QStringLiteral("Awards "));
-    EXPECT_EQ(doc->Profile.FirstName.raw().left(4), QStringLiteral("  Ad")); // not hovered: kept
+    EXPECT_EQ(doc->Tabs[2].Name.raw().left(7), "Awards ");
+    EXPECT_EQ(doc->Profile.FirstName.raw().left(4), "  Ad"); // not hovered: kept
     PaintWorkspace(*doc, 0, 0, res, ctx);
-    EXPECT_EQ(doc->Profile.FirstName.raw().left(4), QStringLiteral("Ada "));
+    EXPECT_EQ(doc->Profile.FirstName.raw().left(4), "Ada ");
     // Never-assigned icon paths come back cut at NUL, that is blank.
     EXPECT_EQ(doc->Tabs[1].Icon.raw(), QString(256, QLatin1Char(' ')));
 }

@@ -29,7 +29,7 @@
 namespace zentor::test {
 namespace {
 
-const QString ScriptFilter = QStringLiteral("*.qds|*.qds|*.*|*.*");
+const QString ScriptFilter = "*.qds|*.qds|*.*|*.*";
 
 class WindowTest : public ::testing::Test {
 protected:
@@ -208,7 +208,7 @@ TEST_F(WindowTest, TheStripAndItsKeysChangePages) {
 
 TEST_F(WindowTest, TheInPlaceEditorStoresItsTextWhenLeft) {
     const int slot = insertText(QRect(100, 100, 200, 90));
-    doc->Texts[slot].Text = QStringLiteral("Hello");
+    doc->Texts[slot].Text = "Hello";
     QTest::mouseDClick(frame, Qt::LeftButton, {}, QPoint(20, 20));
     auto* box = find<QPlainTextEdit>("TxtAdd");
     ASSERT_TRUE(box->isVisible());
@@ -338,8 +338,8 @@ TEST_F(WindowTest, ClosingAsksEveryTimeAndFollowsTheAnswer) {
         Prompter::Answer answer;
         bool closes;
     };
-    const QString title = QStringLiteral("Exit Vitara Zentor");
-    const QString text = QStringLiteral("Please save the work before exit. Exit with save?");
+    const QString title = "Exit Vitara Zentor";
+    const QString text = "Please save the work before exit. Exit with save?";
     for (const Case c : {Case{Prompter::Answer::Cancel, false}, Case{Prompter::Answer::No, true}}) {
         ASSERT_TRUE(QDir(sandbox.ctx.WorkFolder).exists() || sandbox.ctx.ensureWorkFolder());
         prompter.expectYesNoCancel(title, text, c.answer);
@@ -431,8 +431,8 @@ TEST_F(WindowTest, ClipboardKeysCopyPasteDuplicateAndCutThroughOurOwnType) {
 }
 
 TEST_F(WindowTest, SavedProjectsHeadOpenRecentAndAMissingOneIsTakenOff) {
-    QSettings().remove(QStringLiteral("recentFiles"));
-    const QString path = sandbox.path(QStringLiteral("recent.qds"));
+    QSettings().remove("recentFiles");
+    const QString path = sandbox.path("recent.qds");
     prompter.expectFile(true, "Save as QDV Script File", ScriptFilter, path);
     find<QAction>("SubFile8")->trigger();
     // Built afresh by the next window too: the list lives in the settings.
@@ -450,7 +450,7 @@ TEST_F(WindowTest, SavedProjectsHeadOpenRecentAndAMissingOneIsTakenOff) {
 
 TEST_F(WindowTest, APictureDroppedOnAPageBecomesAPictureObjectThere) {
     clickStrip(2);
-    const QString picture = sandbox.path(QStringLiteral("drop.png"));
+    const QString picture = sandbox.path("drop.png");
     ASSERT_TRUE(Solid(100, 80, 0xff2266aa).save(picture));
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(picture)});

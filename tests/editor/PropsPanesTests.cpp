@@ -345,7 +345,7 @@ TEST(PropsPanesOwner, AMainWindowParentIsTheView) {
 }
 
 TEST_F(PropsPanes, BoxesSayWhichCharactersTheCodePageLoses) {
-    CodePage::overrideActive(CodePage::create(QStringLiteral("1252")));
+    CodePage::overrideActive(CodePage::create("1252"));
     const struct {
         int pane;
         const char* box;
@@ -357,12 +357,12 @@ TEST_F(PropsPanes, BoxesSayWhichCharactersTheCodePageLoses) {
         auto* note = control<QLabel>(b.pane, (std::string(b.box) + "CodePageNote").c_str());
         // Typed keys are ASCII only in the test driver; the note follows any change.
         if (auto* line = qobject_cast<QLineEdit*>(box))
-            line->setText(QStringLiteral("Ελένη Łucja"));
+            line->setText("Ελένη Łucja");
         else
-            qobject_cast<QPlainTextEdit*>(box)->setPlainText(QStringLiteral("Ελένη Łucja"));
+            qobject_cast<QPlainTextEdit*>(box)->setPlainText("Ελένη Łucja");
         EXPECT_TRUE(note->isVisible());
         EXPECT_EQ(note->text(), "Code page windows-1252 cannot store \"ΕλένηŁ\"; saved as \"?\".");
-        type(box, QStringLiteral("Lena"));
+        type(box, "Lena");
         EXPECT_FALSE(note->isVisible());
     }
     CodePage::overrideActive(nullptr);

@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     zentor::PrepareRuntimeDir();
     QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Vitara Zentor"));
+    QApplication::setApplicationName("Vitara Zentor");
     // The user's own settings (recent files) stay out of reach.
     QStandardPaths::setTestModeEnabled(true);
     ::testing::InitGoogleTest(&argc, argv);
