@@ -2,8 +2,13 @@
 
 #include "ScriptedPrompter.h"
 #include "TestSupport.h"
+#include "check/SpellSettings.h"
 #include "edit/ObjectClipboard.h"
 #include "edit/RecentFiles.h"
+#include "editor/check/CheckPanel.h"
+#include "editor/check/CheckUi.h"
+#include "editor/check/SpellService.h"
+#include "editor/check/SpellUnderline.h"
 #include "io/ScriptFile.h"
 #include "render/ResImages.h"
 
@@ -24,6 +29,9 @@
 #include <QSettings>
 #include <QTabBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <QTreeWidget>
 #include <QUrl>
 
 namespace zentor::test {
@@ -35,6 +43,7 @@ class WindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
         doc = sandbox.newDocument();
+        prepare();
         window = std::make_unique<FrmMain>(*doc, sandbox.ctx, prompter, res);
         window->formLoad();
         // The offscreen screen is small; the window keeps a desktop size regardless.
@@ -50,6 +59,8 @@ protected:
     void TearDown() override {
         EXPECT_TRUE(prompter.failures().isEmpty()) << prompter.failures().join('\n').toStdString();
     }
+    // What a test needs in the document or the settings before the window opens.
+    virtual void prepare() {}
 
     template <class T> T* find(const char* name) {
         T* w = window->findChild<T*>(QString::fromLatin1(name));
@@ -486,6 +497,123 @@ TEST_F(WindowTest, TheTitleMarkFollowsEachChangeAtOnce) {
     EXPECT_TRUE(window->isWindowModified());
     window->editor().redo(); // back at the save point
     EXPECT_FALSE(window->isWindowModified());
+}
+
+// The window over a Personal page with one misspelt word.
+class CheckWindowTest : public WindowTest {
+protected:
+    void prepare() override {
+        // The personal dictionary and the language live in the user's settings (the test
+        // ones here), which earlier runs may have filled.
+        QSettings("Vitara", "Zentor").remove("spelling");
+        SaveSpellingLanguage("en_US");
+        PlaceText(*doc, 1, 7, QRect(20, 20, 300, 100), "Quorvix recieved the award.").FontColor =
+            int32_t(0xFF000000);
+    }
+    void SetUp() override {
+        WindowTest::SetUp();
+        check = window->findChild<CheckUi*>();
+        ASSERT_NE(check, nullptr);
+    }
+    void TearDown() override {
+        WindowTest::TearDown();
+        QSettings("Vitara", "Zentor").remove("spelling");
+    }
+
+    // The wavy underlines of the first paragraph of a box: (start, length) each.
+    static QList<QPair<int, int>> Underlined(QPlainTextEdit* box) {
+        QList<QPair<int, int>> spans;
+        for (const QTextLayout::FormatRange& r : box->document()->firstBlock().layout()->formats())
+            if (r.format.underlineStyle() == QTextCharFormat::WaveUnderline)
+                spans.append({r.start, r.length});
+        return spans;
+    }
+
+    CheckUi* check = nullptr;
+};
+
+TEST_F(CheckWindowTest, ChoosingAFindingShowsItsPageAndSelectsItsObject) {
+    QAction* item = window->findChild<QAction*>("SubEditCheck");
+    ASSERT_NE(item, nullptr);
+    EXPECT_EQ(item->text(), "Check Résumé...");
+    EXPECT_EQ(item->shortcut(), QKeySequence(Qt::Key_F7));
+    item->trigger();
+    ASSERT_TRUE(check->panel().isVisible());
+
+    auto* list = window->findChild<QTreeWidget*>("LstFindings");
+    QTreeWidgetItem* row = nullptr;
+    for (int i = 0; i < list->topLevelItemCount(); ++i)
+        if (list->topLevelItem(i)->text(3).contains(QLatin1String("\"recieved\"")))
+            row = list->topLevelItem(i);
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(row->text(0), "Personal");
+    emit list->itemClicked(row, 0);
+    EXPECT_EQ(window->editor().state().CurrentTab, 7);
+    EXPECT_EQ(window->editor().state().SelectedKind, 2);
+    EXPECT_EQ(window->editor().state().SelectedIndex, 1);
+}
+
+TEST_F(CheckWindowTest, MisspeltWordsAreUnderlinedUntilAccepted) {
+    window->editor().state().SelectedIndex = 1;
+    auto* box = window->findChild<QPlainTextEdit*>("TxtWord");
+    ASSERT_NE(box, nullptr);
+    box->setPlainText("Quorvix acheived the awward.");
+    // The person's name is never underlined.
+    EXPECT_EQ(Underlined(box), (QList<QPair<int, int>>{{8, 8}, {21, 6}}));
+
+    check->spelling().ignore("awward");
+    EXPECT_EQ(Underlined(box), (QList<QPair<int, int>>{{8, 8}}));
+    check->spelling().addToDictionary("acheived");
+    EXPECT_TRUE(Underlined(box).isEmpty());
+    // Ignoring lasts the session; the dictionary is kept.
+    EXPECT_TRUE(PersonalWords().contains("acheived"));
+    EXPECT_FALSE(PersonalWords().contains("awward"));
+}
+
+TEST_F(CheckWindowTest, AOneLineBoxUnderlinesAsItsTextChangesNotAsItsCursorMoves) {
+    QLineEdit box;
+    UnderlineSpelling(&box, check->spelling());
+    box.resize(400, 30);
+    box.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&box));
+    // The columns the red wavy line covers, first and last.
+    const auto red = [&box] {
+        const QImage shot = box.grab().toImage();
+        int first = -1, last = -1;
+        for (int y = 0; y < shot.height(); ++y)
+            for (int x = 0; x < shot.width(); ++x) {
+                const QColor c = shot.pixelColor(x, y);
+                if (c.red() - c.green() > 60 && c.red() - c.blue() > 60) {
+                    first = first < 0 ? x : std::min(first, x);
+                    last = std::max(last, x);
+                }
+            }
+        return std::pair(first, last);
+    };
+    box.setText("Objectve and pages");
+    const auto underlined = red();
+    ASSERT_GE(underlined.first, 0);
+    box.setCursorPosition(2);
+    box.setCursorPosition(15);
+    EXPECT_EQ(red(), underlined);
+    box.setText("Pages and objectve");
+    EXPECT_GT(red().first, underlined.second);
+    box.setText("Pages and objectives");
+    EXPECT_EQ(red().first, -1);
+}
+
+TEST_F(CheckWindowTest, AWrittenPackageLeavesTheCountInTheStatusBar) {
+    const QString path = sandbox.path("cv.qdv");
+    prompter.expectFile(true, "Generate QDV File", "*.qdv|*.qdv", path);
+    window->toolbarAction(CmdGenerateQdv)->trigger();
+    // Counted on a worker: the window goes on meanwhile.
+    const auto* panel = window->findChild<QLabel*>("StatusPanel1");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel->text().contains(QLatin1String("remain")); }));
+    // Six pages are empty and one word is misspelt; said after what was written.
+    const QString status = panel->text();
+    EXPECT_TRUE(status.startsWith(QLatin1String("Wrote cv.qdv"))) << status.toStdString();
+    EXPECT_TRUE(status.endsWith("; 7 findings remain: Edit > Check Résumé... (F7) lists them"))
+        << status.toStdString();
 }
 
 } // namespace
