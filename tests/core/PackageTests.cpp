@@ -144,31 +144,22 @@ TEST_F(PackagePlayerTest, CliInfoAndUnpackOfPackages) {
     EXPECT_TRUE(QJsonDocument::fromJson(out).isObject());
 }
 
-class PackageReaderTest : public ::testing::Test {
+// The same résumé with a tab icon, a renamed page and a last name, behind the stand-in player.
+class PackageReaderTest : public PackagePlayerTest {
 protected:
     void SetUp() override {
+        PackagePlayerTest::SetUp();
         ASSERT_TRUE(WriteAll(box.path("icon.png"), icon));
-        ASSERT_TRUE(WriteAll(box.path("song.mp3"), music));
         doc->Tabs[3].Icon = box.path("icon.png");
-        doc->Header.BackMusic = box.path("song.mp3");
-        doc->Header.BackPicture.clearToNul();
         doc->Tabs[4].Name = "Hobbies";
         doc->Profile.LastName = "Lovelace";
         gen.setPlayer(FakePlayer());
     }
     QByteArray generate(bool selfRun) {
-        const QString out = box.path("pkg");
-        EXPECT_EQ(gen.writePackage(*doc, out, selfRun), ResumeGenerator::Outcome::Written);
-        return ReadAll(out);
+        return ReadAll(PackagePlayerTest::generate("pkg", selfRun));
     }
 
-    Sandbox box;
-    std::unique_ptr<Document> doc = box.newDocument();
-    FakePictures pictures;
-    ScriptedPrompter prompter;
-    ResumeGenerator gen{box.ctx, prompter, pictures};
     QByteArray icon = PictureBytes(20, 20, 0xff808000);
-    QByteArray music = QByteArray("ID3\4\0") + QByteArray(300, 'x');
 };
 
 TEST_F(PackageReaderTest, ReadsBackWhatWasWritten) {
