@@ -50,12 +50,6 @@ Seen KindsAndTabs(const std::vector<Finding>& findings) {
     return seen;
 }
 
-QString Picture(const Sandbox& box, const char* name, int w, int h, QRgb colour = 0xFF336699) {
-    const QString path = box.path(QLatin1String(name));
-    Solid(w, h, colour).save(path);
-    return path;
-}
-
 } // namespace
 
 TEST(Check, EachKindIsFoundOnlyWhereItIs) {

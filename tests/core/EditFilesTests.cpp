@@ -331,12 +331,6 @@ TEST(SaveAs, ARefusedSaveLeavesPathsAndProjectAsTheyWere) {
     EXPECT_TRUE(MissingMedia(*f.doc).isEmpty());
 }
 
-QString Picture(const Sandbox& box, const char* name, int w, int h) {
-    const QString path = box.path(QLatin1String(name));
-    Solid(w, h, 0xff336699).save(path, "PNG");
-    return path;
-}
-
 TEST(DropFiles, APictureIsFittedToHalfThePageCentredOnThePointAndKeptOnThePage) {
     const struct {
         QSize size;

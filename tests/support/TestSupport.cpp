@@ -39,6 +39,12 @@ QImage Solid(int width, int height, QRgb colour) {
     return image;
 }
 
+QString Picture(const Sandbox& box, const QString& name, int width, int height, QRgb colour) {
+    const QString path = box.path(name);
+    Solid(width, height, colour).save(path, "PNG");
+    return path;
+}
+
 bool Near(QRgb a, QRgb b, int tolerance) {
     return std::abs(qRed(a) - qRed(b)) <= tolerance &&
            std::abs(qGreen(a) - qGreen(b)) <= tolerance &&

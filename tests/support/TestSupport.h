@@ -35,6 +35,9 @@ QByteArray Padded(const QByteArray& text, int width);
 int32_t Int32At(const QByteArray& bytes, qsizetype offset);
 // A picture of one colour.
 QImage Solid(int width, int height, QRgb colour);
+// A PNG file of one colour in the sandbox; its path.
+QString Picture(const Sandbox& box, const QString& name, int width, int height,
+                QRgb colour = 0xFF336699);
 // Pixels of exactly `colour` inside `in` (the whole picture when `in` is null).
 int CountPixels(const QImage& img, QRgb colour, QRect in = {});
 // Colours within `tolerance` in each channel (JPEG and scaling shift them a little).
