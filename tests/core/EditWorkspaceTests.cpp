@@ -20,16 +20,22 @@ using Answer = Prompter::Answer;
 
 namespace {
 
-// Page 1 with one image at (100, 100, 50, 50) in slot 1 and a text over part of it in slot 1.
-struct PageFixture : EditorFixture {
-    PageFixture() {
+// Page 1 with image 1 at (100, 100, 50, 50) and text 1 (60 x 20) at `textAt`.
+struct TwoObjects : EditorFixture {
+    explicit TwoObjects(IntPoint textAt) {
         showTab(1);
         editor.CommonModth(CmdInsertImage);
         ImageElement& img = doc->Images[1];
         img.Left = 100, img.Top = 100, img.Width = 50, img.Height = 50;
         editor.CommonModth(CmdInsertText);
         TextElement& txt = doc->Texts[1];
-        txt.Left = 140, txt.Top = 140, txt.Width = 60, txt.Height = 20;
+        txt.Left = textAt.x, txt.Top = textAt.y, txt.Width = 60, txt.Height = 20;
+    }
+};
+
+// The text lies over part of the image.
+struct PageFixture : TwoObjects {
+    PageFixture() : TwoObjects({140, 140}) {
         doc->Dirty = false;
         view.log.clear();
     }
@@ -273,16 +279,9 @@ TEST(EditGeometry, ScrollBarsFollowTheWorkspace) {
     EXPECT_EQ(CentreOffset(803, 800), 2);
 }
 
-// Page 1 with image 1 at (100, 100, 50, 50) selected and text 1 beside it, all recorded.
-struct UndoFixture : EditorFixture {
-    UndoFixture() {
-        showTab(1);
-        editor.CommonModth(CmdInsertImage);
-        ImageElement& img = doc->Images[1];
-        img.Left = 100, img.Top = 100, img.Width = 50, img.Height = 50;
-        editor.CommonModth(CmdInsertText);
-        TextElement& txt = doc->Texts[1];
-        txt.Left = 300, txt.Top = 300, txt.Width = 60, txt.Height = 20;
+// The image selected and the text beside it, all recorded.
+struct UndoFixture : TwoObjects {
+    UndoFixture() : TwoObjects({300, 300}) {
         editor.recordPending();
         editor.workspaceMouseDown(MouseButton::Left, {110, 110});
         editor.workspaceMouseUp(MouseButton::Left);
