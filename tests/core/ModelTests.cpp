@@ -11,7 +11,13 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+
 #include <functional>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace zentor;
 using namespace zentor::test;
@@ -27,6 +33,7 @@ TEST(DefaultDocument, DefaultsAndWhichFieldsStayNul) {
     EXPECT_EQ(h.ShowSpeed, 20);
     EXPECT_EQ(h.ShowAsRun, 1);
     EXPECT_EQ(h.KeepOnTime, 7000);
+    EXPECT_EQ(h.BackColor, 0); // black around a frame of another shape
     EXPECT_EQ(h.BackPicture.trimNull(), box.ctx.AppPath + QStringLiteral("Res/bakpic.jpg"));
     EXPECT_FALSE(h.BackMusic.isNul());
     EXPECT_TRUE(h.BackMusic.trimNull().isEmpty());
@@ -164,6 +171,20 @@ TEST(FileUtil, ReadFileBytesKeepsTheBufferOnFailure) {
     EXPECT_EQ(buffer, QByteArray("abc"));
     EXPECT_EQ(ReadFileBytes("   ", buffer, box.ctx.TempImagePath), 5);
     EXPECT_EQ(buffer, QByteArray("temp!"));
+
+    // A file this user may not open: root reads anything, so a child gives up root first.
+    ASSERT_EQ(::chmod(QFile::encodeName(box.dir.path()).constData(), 0755), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(box.path("a.bin")).constData(), 0), 0);
+    const pid_t pid = ::fork();
+    ASSERT_GE(pid, 0);
+    if (pid == 0) {
+        if (::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0))
+            ::_exit(3);
+        ::_exit(ReadFileBytes(box.path("a.bin"), buffer) == 0 && buffer == "temp!" ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(pid, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
 }
 
 TEST(CodePage, FieldsAreCutAtCharacterBoundaries) {

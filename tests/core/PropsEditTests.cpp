@@ -175,6 +175,7 @@ TEST(PropsEdit, CombosListTheirRowsAndStoreEachRowsValue) {
         EXPECT_EQ(r.field(*doc), r.values.back());
     }
     EXPECT_FALSE(CommitCombo(*doc, {4, 200}, PropertyCombo::AlignH, 1));
+    EXPECT_FALSE(CommitCombo(*doc, {MaxTab + 1, 7}, PropertyCombo::TabPicAlign, 1));
     // Values between rows and outside the lists.
     EXPECT_EQ(ComboRow(PropertyCombo::MusicVol, 550), 6); // halves go to the even row
     EXPECT_EQ(ComboRow(PropertyCombo::MusicVol, 450), 4);
