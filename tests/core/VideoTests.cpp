@@ -109,7 +109,7 @@ TEST(VideoCli, WritesThePlayableShow) {
     } cases[] = {
         {"", {}, {320, 240}, false, false},
         {"tone.wav", {"--height", "120"}, {160, 120}, true, false},
-        {"tone.wav", {"--fps", "12"}, {320, 240}, true, false},
+        {"tone.wav", {"--fps", "1"}, {320, 240}, true, false}, // the slowest rate
         {"notes.txt", {}, {320, 240}, false, true},
         {"missing.mp3", {}, {320, 240}, false, true},
     };
