@@ -212,6 +212,7 @@ TEST(EditCommands, DeleteAndZOrderMarkTheDocumentEvenWithNothingSelected) {
     f.doc->Dirty = false;
     f.editor.CommonModth(CmdMoveToTop);
     EXPECT_TRUE(f.doc->Dirty);
+    EXPECT_EQ(f.editor.undoStack().undoName(), "Bring text 1 to top");
     EXPECT_EQ(f.editor.state().SelectedIndex, 2);
     EXPECT_EQ(f.doc->Texts[2].Name.text(), "text 1");
     EXPECT_EQ(f.view.currentRow, 2); // the list follows the moved object
