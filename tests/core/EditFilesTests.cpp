@@ -375,6 +375,7 @@ TEST(DropFiles, PicturesOnAContentPageAreOneStepAndElsewhereNothing) {
     EXPECT_EQ(SavedBytes(*f.doc), clean);
 
     f.editor.dropFiles({a, b}, IntPoint{400, 300});
+    EXPECT_TRUE(f.doc->Dirty);
     EXPECT_EQ(f.doc->Images[1].FileName.trimNull(), a);
     EXPECT_EQ(f.doc->Images[2].TabNo, 2);
     EXPECT_EQ(f.doc->Images[2].Left, 390); // the next one 10 pixels on

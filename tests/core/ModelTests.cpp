@@ -203,6 +203,8 @@ TEST(CodePage, FieldsAreCutAtCharacterBoundaries) {
     jp = "日本語";
     EXPECT_EQ(QByteArray(jp.data(), 5).right(1), QByteArray(" ")); // 2+2 bytes, then a blank
     EXPECT_EQ(jp.text(), "日本");
+    jp = QStringLiteral("日a本語"); // cut after whole characters, whatever their widths
+    EXPECT_EQ(jp.text(), "日a本");
     CodePage::overrideActive(nullptr);
 
     auto cyrillic = CodePage::create("1251");

@@ -168,6 +168,9 @@ TEST_F(RenderCompositor, OutputsAndWriteBack) {
         EXPECT_TRUE(RenderPageImage(*doc, 1, res).isNull());
         EXPECT_FALSE(RenderPage(*doc, 1, res, box.ctx));
     }
+    doc->Header.FrameWidth = MaxFrameSide; // the largest side there is
+    doc->Header.FrameHeight = 1;
+    EXPECT_EQ(FrameSize(*doc), QSize(MaxFrameSide, 1));
 }
 
 TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
