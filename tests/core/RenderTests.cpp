@@ -382,6 +382,9 @@ TEST(RenderPicture, SaveImageAsByEnding) {
     EXPECT_EQ(test::ReadAll(box.path("keep.bmp")), QByteArray("old"));
     // A folder that does not exist: nothing written, no crash.
     EXPECT_FALSE(SaveImageAs(img, box.path("no/such/dir/x.png"), 95));
+    // Wider than a JPEG can be: refused, and nothing is left.
+    EXPECT_FALSE(SaveImageAs(Solid(70000, 1, qRgb(1, 2, 3)), box.path("wide.jpg"), 95));
+    EXPECT_FALSE(QFile::exists(box.path("wide.jpg")));
 }
 
 TEST(RenderPicture, OnlyAJpegDropsTheAlphaChannel) {
