@@ -181,6 +181,16 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
         const auto findings = CheckDocument(*doc, options);
         EXPECT_EQ(KindsAndTabs(findings), c.expected) << c.what;
     }
+    // A contrast finding gives both ratios, what the text has cut to one decimal.
+    auto light = CleanDocument(box);
+    light->Texts[1].FontColor = int32_t(0xFFBBBBBB);
+    CheckOptions options;
+    options.speller = speller.get();
+    const auto findings = CheckDocument(*light, options);
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_TRUE(findings[0].message.endsWith("the text stands out 1.9:1 from what lies under it; "
+                                             "at least 4.5:1 is needed to read it"))
+        << findings[0].message.toStdString();
 }
 
 TEST(Check, TellsWhichWordAndWhereWithSuggestionsInTheDictionarysOrder) {

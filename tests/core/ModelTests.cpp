@@ -59,6 +59,7 @@ TEST(DefaultDocument, DefaultsAndWhichFieldsStayNul) {
     EXPECT_TRUE(t.Text.isNul());
     EXPECT_EQ(doc->Images[0].PicAlign, 3);
     EXPECT_EQ(doc->Images[0].Width, 120);
+    EXPECT_EQ(doc->Images[0].Height, 120);
 }
 
 TEST(DefaultDocument, NewForgetsEveryObjectAndThePath) {
