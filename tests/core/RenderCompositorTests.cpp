@@ -168,9 +168,11 @@ TEST_F(RenderCompositor, OutputsAndWriteBack) {
         EXPECT_TRUE(RenderPageImage(*doc, 1, res).isNull());
         EXPECT_FALSE(RenderPage(*doc, 1, res, box.ctx));
     }
-    doc->Header.FrameWidth = MaxFrameSide; // the largest side there is
-    doc->Header.FrameHeight = 1;
-    EXPECT_EQ(FrameSize(*doc), QSize(MaxFrameSide, 1));
+    for (const QSize largest : {QSize(MaxFrameSide, 1), QSize(1, MaxFrameSide)}) {
+        doc->Header.FrameWidth = largest.width();
+        doc->Header.FrameHeight = largest.height();
+        EXPECT_EQ(FrameSize(*doc), largest);
+    }
 }
 
 TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
