@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 
 namespace zentor {
@@ -47,6 +48,11 @@ public:
     // through the prompter like GenerateResume.
     Outcome writePackage(Document& doc, const QString& path, bool selfRun);
 
+    // The same data file made in memory, for a program that shows or exports it: the same
+    // bytes, the temporary picture kept in memory, nothing written to disk but resampling's
+    // scratch pictures.
+    Outcome writePackageData(Document& doc, QByteArray& out);
+
     // The extension rule: `path` gets ".exe" or ".qdv" unless its last four characters are
     // exactly that (case matters: "cv.EXE" becomes "cv.EXE.exe").
     static QString withExtension(const QString& path, bool selfRun);
@@ -61,6 +67,7 @@ public:
 
 private:
     class Writer;
+    Outcome run(const std::function<bool()>& write, Writer& writer, const QString& name);
     const ProcessContext& ctx_;
     Prompter& prompter_;
     PackagePictures& pictures_;
