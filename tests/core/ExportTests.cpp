@@ -3,9 +3,12 @@
 #include "ScriptedPrompter.h"
 
 #include "export/ExportCommand.h"
+#include "export/PackageShowFrames.h"
 #include "export/PdfExport.h"
 #include "export/PdfJoin.h"
 #include "export/WebPageExport.h"
+#include "generate/RenderedPictures.h"
+#include "generate/ResumeGenerator.h"
 #include "io/ScriptFile.h"
 #include "render/PageCompositor.h"
 #include "render/ResImages.h"
@@ -289,6 +292,34 @@ TEST(ExportWebPage, ShowMovesOnByItself) {
     const QJsonObject seen = Probe(html, pr.box.path("profile"), {"--wait-advance"});
     EXPECT_EQ(Strings(seen["errors"]), QStringList());
     EXPECT_EQ(seen["advanced"].toString(), "7"); // Personal, the strip's first page
+}
+
+// The web page's package is made in memory and its pages judged as they are rendered: the
+// same bytes as the generated file, the same show as a player decoding them finds.
+TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
+    ExportProject pr;
+    pr.doc->Tabs[4].Picture.FileName = QString();
+    pr.doc->Texts[4].TabNo = 0; // page 4 holds nothing now
+    const ResImages res = ResImages::load();
+    PackageContents package;
+    QStringList warnings;
+    QString error;
+    ShowPictures::EmptyPages judged;
+    ASSERT_TRUE(DocumentPackage(*pr.doc, pr.box.ctx, res, package, warnings, error, &judged))
+        << error.toStdString();
+
+    test::ScriptedPrompter prompter;
+    RenderedPictures rendered(pr.box.ctx, res);
+    ResumeGenerator generator(pr.box.ctx, prompter, rendered);
+    Document copy = *pr.doc;
+    ASSERT_EQ(generator.writePackage(copy, pr.box.path("cv.qdv"), false),
+              ResumeGenerator::Outcome::Written);
+    EXPECT_EQ(package.Data, test::ReadAll(pr.box.path("cv.qdv")));
+
+    const QByteArray background = DefaultHomeBackground(pr.box.ctx);
+    const std::vector<int> decoded = ShowPictures(package, res, background).showOrder();
+    EXPECT_EQ(ShowPictures(package, res, background, judged).showOrder(), decoded);
+    EXPECT_EQ(decoded, (std::vector<int>{17, 16, 15, 13, 12, 11, 18}));
 }
 
 TEST(ExportWebPage, Base64OfEveryTailLength) {

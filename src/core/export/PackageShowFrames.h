@@ -35,11 +35,12 @@ private:
     show::ShowModel model_;
 };
 
-// The package a document generates, made in the work folder and read back: what the
-// recipient's player will show. False with `error` when none could be made; what
-// generating warned about is added to `warnings`.
+// The package a document generates, made in memory: what the recipient's player will show.
+// False with `error` when none could be made; what generating warned about is added to
+// `warnings`. With `judged`, each page is judged empty or not as it is rendered.
 bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
-                     PackageContents& package, QStringList& warnings, QString& error);
+                     PackageContents& package, QStringList& warnings, QString& error,
+                     ShowPictures::EmptyPages* judged = nullptr);
 
 // The built-in background a package without its own shows on its home page.
 QByteArray DefaultHomeBackground(const ProcessContext& ctx);
