@@ -294,18 +294,26 @@ TEST(ExportWebPage, ShowMovesOnByItself) {
     EXPECT_EQ(seen["advanced"].toString(), "7"); // Personal, the strip's first page
 }
 
-// The web page's package is made in memory and its pages judged as they are rendered: the
-// same bytes as the generated file, the same show as a player decoding them finds.
+// The web page's package is made in memory, its pages judged as they are rendered and its
+// home page drawn from the package's beginning: the same bytes as the generated file, the
+// same show and home page as a player decoding them finds.
 TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
     ExportProject pr;
     pr.doc->Tabs[4].Picture.FileName = QString();
     pr.doc->Texts[4].TabNo = 0; // page 4 holds nothing now
+    pr.doc->Tabs[3].Icon = QStringLiteral("green.png");
     const ResImages res = ResImages::load();
+    const QByteArray background = DefaultHomeBackground(pr.box.ctx);
     PackageContents package;
     QStringList warnings;
     QString error;
     ShowPictures::EmptyPages judged;
-    ASSERT_TRUE(DocumentPackage(*pr.doc, pr.box.ctx, res, package, warnings, error, &judged))
+    QImage homeFromHead;
+    PackageWatch watch{&judged, [&](PackageContents head) {
+                           homeFromHead = ShowPictures(head, res, background, {})
+                                              .picture(show::HomePicture);
+                       }};
+    ASSERT_TRUE(DocumentPackage(*pr.doc, pr.box.ctx, res, package, warnings, error, watch))
         << error.toStdString();
 
     test::ScriptedPrompter prompter;
@@ -316,10 +324,10 @@ TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
               ResumeGenerator::Outcome::Written);
     EXPECT_EQ(package.Data, test::ReadAll(pr.box.path("cv.qdv")));
 
-    const QByteArray background = DefaultHomeBackground(pr.box.ctx);
-    const std::vector<int> decoded = ShowPictures(package, res, background).showOrder();
-    EXPECT_EQ(ShowPictures(package, res, background, judged).showOrder(), decoded);
-    EXPECT_EQ(decoded, (std::vector<int>{17, 16, 15, 13, 12, 11, 18}));
+    const ShowPictures decoded(package, res, background);
+    EXPECT_EQ(ShowPictures(package, res, background, judged).showOrder(), decoded.showOrder());
+    EXPECT_EQ(decoded.showOrder(), (std::vector<int>{17, 16, 15, 13, 12, 11, 18}));
+    EXPECT_EQ(homeFromHead, decoded.picture(show::HomePicture));
 }
 
 TEST(ExportWebPage, Base64OfEveryTailLength) {

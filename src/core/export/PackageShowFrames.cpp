@@ -71,11 +71,11 @@ int PackageShowFrames::stillUntil(int ms) const {
 
 bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
                      PackageContents& package, QStringList& warnings, QString& error,
-                     ShowPictures::EmptyPages* judged) {
+                     const PackageWatch& watch) {
     QStringList said;
     CollectingPrompter prompter(said);
     RenderedPictures rendered(ctx, res);
-    if (judged) {
+    if (ShowPictures::EmptyPages* judged = watch.judged) {
         *judged = {};
         const QSize frame = FrameSize(doc);
         rendered.setPageSeen([judged, frame](int page, const QImage& picture) {
@@ -83,6 +83,9 @@ bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResIm
         });
     }
     ResumeGenerator generator(ctx, prompter, rendered);
+    if (watch.head)
+        generator.setHeadWritten(
+            [&watch](const QByteArray& head) { watch.head(ParsePackage(head, PackageForm::Qdv)); });
     generator.setParallel(true);
     Document copy = doc; // generating tidies the document it writes
     QByteArray bytes;

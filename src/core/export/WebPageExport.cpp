@@ -259,19 +259,28 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     if (FrameSize(doc).isEmpty())
         return QByteArray();
     std::future<PageTexts> texts = std::async(std::launch::async, TextLayers, std::cref(doc));
-    // The pages are the package's own, the home page the players' own.
+    // The pages are the package's own, the home page the players' own: painted and
+    // compressed from the package's beginning while its pages are still being drawn.
+    const QByteArray background = DefaultHomeBackground(ctx);
+    const auto paintHome = [&res, background](const PackageContents& package) {
+        const ShowPictures pictures(package, res, background, {});
+        return EncodeJpeg(pictures.picture(show::HomePicture), PageQuality);
+    };
+    std::future<QByteArray> home;
+    PackageWatch watch;
+    ShowPictures::EmptyPages judged;
+    watch.judged = &judged;
+    watch.head = [&](PackageContents head) {
+        home = std::async(std::launch::async, paintHome, std::move(head));
+    };
     PackageContents package;
     QStringList warnings;
     QString error;
-    ShowPictures::EmptyPages judged;
-    if (!DocumentPackage(doc, ctx, res, package, warnings, error, &judged))
+    if (!DocumentPackage(doc, ctx, res, package, warnings, error, watch))
         return QByteArray();
-    const ShowPictures pictures(package, res, DefaultHomeBackground(ctx), judged);
-
-    // The home picture is painted and compressed while the pages' layers are laid out.
-    std::future<QByteArray> home = std::async(std::launch::async, [&pictures] {
-        return EncodeJpeg(pictures.picture(show::HomePicture), PageQuality);
-    });
+    if (!home.valid())
+        home = std::async(std::launch::deferred, paintHome, std::cref(package));
+    const ShowPictures pictures(package, res, background, judged);
 
     QJsonObject show = WebShowNumbers(doc, pictures.showOrder());
     show.insert("title", PersonName(doc));

@@ -44,9 +44,10 @@ struct PictureJob {
 // never leaves the program.
 class ResumeGenerator::Writer {
 public:
+    // `memory` is what `out` writes into when the package is made in memory.
     Writer(ResumeGenerator& gen, Document& doc, QIODevice& out, const QString& name,
-           bool memoryTemp)
-        : gen_(gen), doc_(doc), out_(out), name_(name), memoryTemp_(memoryTemp) {}
+           const QByteArray* memory)
+        : gen_(gen), doc_(doc), out_(out), name_(name), memory_(memory) {}
 
     bool run(bool selfRun);
     bool cancelled() const { return cancelled_; }
@@ -67,7 +68,7 @@ private:
     // The whole-file reader: on failure it says so and leaves the shared buffer alone.
     qint64 read(const QString& path) {
         const QString p = path.trimmed().isEmpty() ? gen_.ctx_.TempImagePath : path.trimmed();
-        if (memoryTemp_ && p == gen_.ctx_.TempImagePath) {
+        if (memory_ && p == gen_.ctx_.TempImagePath) {
             if (temp_) {
                 gen_.FileBytes = *temp_;
                 return gen_.FileBytes.size();
@@ -98,7 +99,7 @@ private:
     // A resampled picture or a page goes through the temporary picture, read back whole.
     bool appendPicture(int entry, size_t job) {
         if (auto jpeg = jobs_->take(job)) {
-            if (memoryTemp_) {
+            if (memory_) {
                 temp_ = std::move(*jpeg);
             } else {
                 QFile temp(gen_.ctx_.TempImagePath);
@@ -113,7 +114,7 @@ private:
     Document& doc_;
     QIODevice& out_;
     QString name_;
-    bool memoryTemp_;
+    const QByteArray* memory_;       // the temporary picture is kept in memory too
     std::optional<QByteArray> temp_; // the temporary picture when it is kept in memory
     qint64 position_ = 1;            // 1-based position of the next byte
     std::unique_ptr<Document> snapshot_;
@@ -175,6 +176,11 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
     if (!tidyPath(doc_.Header.BackPicture).isEmpty() &&
         !appendPicture(Package::BackPictureEntry, nextJob++))
         return fail();
+    if (memory_ && gen_.headWritten_) {
+        QByteArray head = memory_->left(position_ - 1);
+        head.replace(tableAt, Package::TableSize, EncodePackTable(gen_.Entries));
+        gen_.headWritten_(head);
+    }
     const QString music = tidyPath(doc_.Header.BackMusic);
     if (!music.isEmpty() &&
         !append(Package::MusicEntry, PackMusic, ResolvePath(doc_.ScriptPath, music)))
@@ -223,7 +229,7 @@ ResumeGenerator::Outcome ResumeGenerator::writePackage(Document& doc, const QStr
                                                        bool selfRun) {
     ctx_.ensureWorkFolder();
     QFile file(path);
-    Writer writer(*this, doc, file, path, false);
+    Writer writer(*this, doc, file, path, nullptr);
     const Outcome outcome = run(
         [&] {
             if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
@@ -257,7 +263,7 @@ ResumeGenerator::Outcome ResumeGenerator::writePackageData(Document& doc, QByteA
     out.clear();
     QBuffer buffer(&out);
     buffer.open(QIODevice::WriteOnly);
-    Writer writer(*this, doc, buffer, QString(), true);
+    Writer writer(*this, doc, buffer, QString(), &out);
     return run([&] { return writer.run(false); }, writer, QString());
 }
 
