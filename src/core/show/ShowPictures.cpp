@@ -154,7 +154,47 @@ QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
     return img;
 }
 
+namespace {
+
+// Whether some 4 x 4 block of a frame-sized page averages clearly apart from the first one.
+// The quarter the judging looks at is those averages (the smooth scaler averages areas,
+// give or take one in rounding), so such a page is not flat; most pages that hold something
+// tell so within their first row of blocks, long before a quarter could be made.
+bool ClearlyNotFlat(const QImage& page, QSize frame) {
+    const bool format = page.format() == QImage::Format_RGB32 ||
+                        page.format() == QImage::Format_ARGB32_Premultiplied;
+    if (page.size() != frame || frame.width() % 4 || frame.height() % 4 || !format)
+        return false;
+    const int limit = 16 * (show::FlatTolerance + 2);
+    std::array<int, 3> first{};
+    for (int y = 0; y < frame.height(); y += 4) {
+        for (int x = 0; x < frame.width(); x += 4) {
+            std::array<int, 3> sum{};
+            for (int dy = 0; dy < 4; ++dy) {
+                const auto* row = reinterpret_cast<const QRgb*>(page.constScanLine(y + dy)) + x;
+                for (int dx = 0; dx < 4; ++dx) {
+                    if (qAlpha(row[dx]) != 255)
+                        return false; // judged as the quarter makes it opaque
+                    sum[0] += qRed(row[dx]);
+                    sum[1] += qGreen(row[dx]);
+                    sum[2] += qBlue(row[dx]);
+                }
+            }
+            if (x == 0 && y == 0)
+                first = sum;
+            for (size_t c = 0; c < 3; ++c)
+                if (std::abs(sum[c] - first[c]) > limit)
+                    return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 bool IsEmptyPage(const QImage& page, QSize frame) {
+    if (ClearlyNotFlat(page, frame))
+        return false;
     const QImage small =
         (page.size() == Quarter(frame)
              ? page
