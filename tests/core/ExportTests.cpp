@@ -226,8 +226,9 @@ TEST(ExportPdf, FailureLeavesNothingBehind) {
     };
     for (const auto& c : cases) {
         EXPECT_EQ(test::RunCli(c.args), c.status) << qPrintable(c.args.join(' '));
-        if (!c.out.isEmpty())
+        if (!c.out.isEmpty()) {
             EXPECT_EQ(test::ReadAll(c.out), c.left);
+        }
     }
     EXPECT_EQ(QDir(pr.box.path("")).entryList({"*.pdf*"}, QDir::Files), QStringList{"old.pdf"});
 }
@@ -369,8 +370,9 @@ TEST(ExportCommand, AsksForAPathAddsTheEndingAndConfirmsOverwriting) {
         EXPECT_EQ(RunExport(c.kind, *pr.doc, prompter, res, pr.box.ctx), c.ok)
             << qPrintable(c.chosen);
         EXPECT_PROMPTS_DONE(prompter);
-        if (c.ok)
+        if (c.ok) {
             EXPECT_TRUE(test::ReadAll(c.written).startsWith(pdf ? "%PDF" : "<!DOCTYPE html>"));
+        }
     }
     EXPECT_EQ(test::ReadAll(pr.box.path("kept.html")), "kept");
 }
