@@ -11,6 +11,7 @@ Workspace::Workspace() : ctx(ProcessContext::create(QStringLiteral("."), dir.pat
 void InitGui(int& argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     PrepareRuntimeDir();
+    KeepFreedMemory(); // as every program does
     static QGuiApplication* app = new QGuiApplication(argc, argv);
     (void)app;
 }

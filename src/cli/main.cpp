@@ -70,6 +70,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     zentor::PrepareRuntimeDir();
+    zentor::KeepFreedMemory();
     QGuiApplication app(argc, argv);
     QStringList words = app.arguments().mid(1);
     if (words.isEmpty())

@@ -12,6 +12,7 @@ using namespace zentor;
 
 int main(int argc, char** argv) {
     PrepareRuntimeDir();
+    KeepFreedMemory();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vitara Zentor"));
     QApplication::setOrganizationName(QStringLiteral("Vitara")); // where the recent files live

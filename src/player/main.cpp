@@ -110,6 +110,7 @@ int main(int argc, char** argv) {
     if (headless || !hasDisplay())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     PrepareRuntimeDir();
+    KeepFreedMemory();
     QGuiApplication app(argc, argv);
     if (options.help || !options.error.isEmpty()) {
         if (!options.error.isEmpty())

@@ -3,9 +3,12 @@
 #include "ScriptedPrompter.h"
 
 #include "export/ExportCommand.h"
+#include "export/PackageShowFrames.h"
 #include "export/PdfExport.h"
 #include "export/PdfJoin.h"
 #include "export/WebPageExport.h"
+#include "generate/RenderedPictures.h"
+#include "generate/ResumeGenerator.h"
 #include "io/ScriptFile.h"
 #include "render/PageCompositor.h"
 #include "render/ResImages.h"
@@ -223,8 +226,9 @@ TEST(ExportPdf, FailureLeavesNothingBehind) {
     };
     for (const auto& c : cases) {
         EXPECT_EQ(test::RunCli(c.args), c.status) << qPrintable(c.args.join(' '));
-        if (!c.out.isEmpty())
+        if (!c.out.isEmpty()) {
             EXPECT_EQ(test::ReadAll(c.out), c.left);
+        }
     }
     EXPECT_EQ(QDir(pr.box.path("")).entryList({"*.pdf*"}, QDir::Files), QStringList{"old.pdf"});
 }
@@ -291,6 +295,42 @@ TEST(ExportWebPage, ShowMovesOnByItself) {
     EXPECT_EQ(seen["advanced"].toString(), "7"); // Personal, the strip's first page
 }
 
+// The web page's package is made in memory, its pages judged as they are rendered and its
+// home page drawn from the package's beginning: the same bytes as the generated file, the
+// same show and home page as a player decoding them finds.
+TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
+    ExportProject pr;
+    pr.doc->Tabs[4].Picture.FileName = QString();
+    pr.doc->Texts[4].TabNo = 0; // page 4 holds nothing now
+    pr.doc->Tabs[3].Icon = QStringLiteral("green.png");
+    const ResImages res = ResImages::load();
+    const QByteArray background = DefaultHomeBackground(pr.box.ctx);
+    PackageContents package;
+    QStringList warnings;
+    QString error;
+    ShowPictures::EmptyPages judged;
+    QImage homeFromHead;
+    PackageWatch watch{&judged, [&](PackageContents head) {
+                           homeFromHead = ShowPictures(head, res, background, {})
+                                              .picture(show::HomePicture);
+                       }};
+    ASSERT_TRUE(DocumentPackage(*pr.doc, pr.box.ctx, res, package, warnings, error, watch))
+        << error.toStdString();
+
+    test::ScriptedPrompter prompter;
+    RenderedPictures rendered(pr.box.ctx, res);
+    ResumeGenerator generator(pr.box.ctx, prompter, rendered);
+    Document copy = *pr.doc;
+    ASSERT_EQ(generator.writePackage(copy, pr.box.path("cv.qdv"), false),
+              ResumeGenerator::Outcome::Written);
+    EXPECT_EQ(package.Data, test::ReadAll(pr.box.path("cv.qdv")));
+
+    const ShowPictures decoded(package, res, background);
+    EXPECT_EQ(ShowPictures(package, res, background, judged).showOrder(), decoded.showOrder());
+    EXPECT_EQ(decoded.showOrder(), (std::vector<int>{17, 16, 15, 13, 12, 11, 18}));
+    EXPECT_EQ(homeFromHead, decoded.picture(show::HomePicture));
+}
+
 TEST(ExportWebPage, Base64OfEveryTailLength) {
     const QByteArray bytes("\x00\xff\x10\x80\x7f\xfe\x01", 7);
     for (qsizetype n = 0; n <= bytes.size(); ++n) {
@@ -330,8 +370,9 @@ TEST(ExportCommand, AsksForAPathAddsTheEndingAndConfirmsOverwriting) {
         EXPECT_EQ(RunExport(c.kind, *pr.doc, prompter, res, pr.box.ctx), c.ok)
             << qPrintable(c.chosen);
         EXPECT_PROMPTS_DONE(prompter);
-        if (c.ok)
+        if (c.ok) {
             EXPECT_TRUE(test::ReadAll(c.written).startsWith(pdf ? "%PDF" : "<!DOCTYPE html>"));
+        }
     }
     EXPECT_EQ(test::ReadAll(pr.box.path("kept.html")), "kept");
 }

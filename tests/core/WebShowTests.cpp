@@ -1,6 +1,7 @@
 #include "TestSupport.h"
 
 #include "export/WebShow.h"
+#include "show/ShowPictures.h"
 
 #include <QJsonArray>
 
@@ -23,4 +24,36 @@ TEST(WebShow, OrderAndTheRingsNames) {
     for (int i = 0; i < 9; ++i)
         EXPECT_EQ(ring[i].toObject().value("name").toString(), names[i]) << i;
     EXPECT_EQ(ring[1].toObject().value("width").toInt(), 80);
+}
+
+// A page is empty when its quarter is flat; the quick look at 4 x 4 blocks that settles most
+// pages must never call a page that holds something empty, nor the other way round.
+TEST(WebShow, PagesAreJudgedEmptyByTheirQuarter) {
+    const QSize frame(800, 600);
+    const auto exact = [&](const QImage& page) {
+        const QImage small = page.scaled(frame / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                 .convertToFormat(QImage::Format_RGB32);
+        return show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()),
+                                   small.width(), small.height(), int(small.bytesPerLine() / 4));
+    };
+    const struct {
+        QPoint at;
+        int darker; // one pixel this much darker than the white page; 0 none
+    } cases[] = {{{0, 0}, 0},     {{0, 0}, 255},     {{799, 599}, 255}, {{799, 0}, 170},
+                 {{0, 599}, 150}, {{402, 301}, 140}, {{402, 301}, 120}, {{5, 5}, 100}};
+    for (const auto& c : cases) {
+        for (const QImage::Format format :
+             {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied}) {
+            QImage page(frame, format);
+            page.fill(0xFFFFFFFFu);
+            const int v = 255 - c.darker;
+            page.setPixel(c.at, qRgb(v, v, v));
+            SCOPED_TRACE(testing::Message() << c.at.x() << "," << c.at.y() << " darker by "
+                                            << c.darker << " format " << format);
+            EXPECT_EQ(IsEmptyPage(page, frame), exact(page));
+        }
+    }
+    // Any flat colour, at the frame's size or already at the quarter.
+    EXPECT_TRUE(IsEmptyPage(test::Solid(800, 600, qRgb(0, 120, 40)), frame));
+    EXPECT_TRUE(IsEmptyPage(test::Solid(200, 150, qRgb(0, 120, 40)), frame));
 }

@@ -24,7 +24,13 @@ TextBoxLayout Layout(const TextElement& t) {
 }
 
 Finding About(FindingKind kind, const TextElement& t, int slot) {
-    return {kind, t.TabNo, 2, slot, ObjectLabel(t.Name.text(), 2, slot)};
+    Finding f;
+    f.kind = kind;
+    f.tab = t.TabNo;
+    f.objectKind = 2;
+    f.slot = slot;
+    f.object = ObjectLabel(t.Name.text(), 2, slot);
+    return f;
 }
 
 // Samples taken across a line's rectangle at most this far apart, in pixels: enough to see

@@ -7,8 +7,7 @@
 #include "io/FileUtil.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
-
-#include <QTemporaryDir>
+#include "render/PageCompositor.h"
 
 #include <algorithm>
 
@@ -71,25 +70,30 @@ int PackageShowFrames::stillUntil(int ms) const {
 }
 
 bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
-                     PackageContents& package, QStringList& warnings, QString& error) {
-    ctx.ensureWorkFolder();
-    QTemporaryDir dir(ctx.WorkFolder + QStringLiteral("show-XXXXXX"));
-    if (!dir.isValid()) {
-        error = QStringLiteral("cannot make a folder in %1 for the résumé's package")
-                    .arg(ctx.WorkFolder);
-        return false;
-    }
-    const QString path = dir.filePath(QStringLiteral("show.qdv"));
+                     PackageContents& package, QStringList& warnings, QString& error,
+                     const PackageWatch& watch) {
     QStringList said;
     CollectingPrompter prompter(said);
     RenderedPictures rendered(ctx, res);
+    if (ShowPictures::EmptyPages* judged = watch.judged) {
+        *judged = {};
+        const QSize frame = FrameSize(doc);
+        rendered.setPageSeen([judged, frame](int page, const QImage& picture) {
+            (*judged)[size_t(Package::FirstPageEntry + page - 1)] = IsEmptyPage(picture, frame);
+        });
+    }
     ResumeGenerator generator(ctx, prompter, rendered);
+    if (watch.head)
+        generator.setHeadWritten(
+            [&watch](const QByteArray& head) { watch.head(ParsePackage(head, PackageForm::Qdv)); });
     generator.setParallel(true);
     Document copy = doc; // generating tidies the document it writes
+    QByteArray bytes;
     const bool written =
-        generator.writePackage(copy, path, false) == ResumeGenerator::Outcome::Written;
-    QString readError;
-    if (!written || !ReadPackage(path, PackageForm::Qdv, package, readError) || !package.Complete) {
+        generator.writePackageData(copy, bytes) == ResumeGenerator::Outcome::Written;
+    if (written)
+        package = ParsePackage(std::move(bytes), PackageForm::Qdv);
+    if (!written || !package.Complete) {
         error =
             said.isEmpty() ? QStringLiteral("cannot make the résumé's package") : said.join(' ');
         return false;

@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace zentor {
@@ -35,11 +36,20 @@ private:
     show::ShowModel model_;
 };
 
-// The package a document generates, made in the work folder and read back: what the
-// recipient's player will show. False with `error` when none could be made; what
-// generating warned about is added to `warnings`.
+// What an export may watch while a document's package is made.
+struct PackageWatch {
+    // Each page judged empty or not as it is rendered.
+    ShowPictures::EmptyPages* judged = nullptr;
+    // The package up to its pages (all the home page is drawn from), while pages are drawn.
+    std::function<void(PackageContents head)> head;
+};
+
+// The package a document generates, made in memory: what the recipient's player will show.
+// False with `error` when none could be made; what generating warned about is added to
+// `warnings`.
 bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
-                     PackageContents& package, QStringList& warnings, QString& error);
+                     PackageContents& package, QStringList& warnings, QString& error,
+                     const PackageWatch& watch = {});
 
 // The built-in background a package without its own shows on its home page.
 QByteArray DefaultHomeBackground(const ProcessContext& ctx);

@@ -18,33 +18,45 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 #include <future>
 
 namespace zentor {
 
-void AppendBase64(QByteArray& out, QByteArrayView bytes) {
+char* Base64Into(char* out, QByteArrayView bytes) {
     static constexpr char Digits[] =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    const qsizetype start = out.size();
-    out.resize(start + (bytes.size() + 2) / 3 * 4);
-    char* o = out.data() + start;
+    // Two digits at a time: twelve bits index a pair.
+    static const auto Pairs = [] {
+        std::array<std::array<char, 2>, 4096> pairs{};
+        for (size_t i = 0; i < pairs.size(); ++i)
+            pairs[i] = {Digits[i >> 6], Digits[i & 63]};
+        return pairs;
+    }();
     const auto* b = reinterpret_cast<const uchar*>(bytes.data());
     const qsizetype whole = bytes.size() / 3 * 3;
-    for (qsizetype i = 0; i < whole; i += 3, o += 4) {
+    for (qsizetype i = 0; i < whole; i += 3, out += 4) {
         const uint v = uint(b[i]) << 16 | uint(b[i + 1]) << 8 | b[i + 2];
-        o[0] = Digits[v >> 18];
-        o[1] = Digits[(v >> 12) & 63];
-        o[2] = Digits[(v >> 6) & 63];
-        o[3] = Digits[v & 63];
+        std::memcpy(out, Pairs[v >> 12].data(), 2);
+        std::memcpy(out + 2, Pairs[v & 0xFFF].data(), 2);
     }
     if (const qsizetype rest = bytes.size() - whole) {
         const uint v = uint(b[whole]) << 16 | (rest == 2 ? uint(b[whole + 1]) << 8 : 0u);
-        o[0] = Digits[v >> 18];
-        o[1] = Digits[(v >> 12) & 63];
-        o[2] = rest == 2 ? Digits[(v >> 6) & 63] : '=';
-        o[3] = '=';
+        out[0] = Digits[v >> 18];
+        out[1] = Digits[(v >> 12) & 63];
+        out[2] = rest == 2 ? Digits[(v >> 6) & 63] : '=';
+        out[3] = '=';
+        out += 4;
     }
+    return out;
+}
+
+void AppendBase64(QByteArray& out, QByteArrayView bytes) {
+    const qsizetype start = out.size();
+    out.resize(start + (bytes.size() + 2) / 3 * 4);
+    Base64Into(out.data() + start, bytes);
 }
 
 namespace {
@@ -74,6 +86,13 @@ public:
         QByteArray out;
         out.reserve(size);
         out += QByteArrayView(page).first(at);
+        // The text goes in first, with room left for each URI's digits; the digits are
+        // written after, in pieces shared between two threads.
+        struct Piece {
+            qsizetype at;
+            QByteArrayView bytes;
+        };
+        std::vector<Piece> pieces;
         qsizetype from = 0;
         for (qsizetype found; (found = json.indexOf(Written, from)) >= 0;) {
             qsizetype end = found + Written.size();
@@ -89,12 +108,24 @@ public:
             out += "\"data:";
             out += uris_[index].mime;
             out += ";base64,";
-            AppendBase64(out, uris_[index].bytes);
+            const QByteArrayView bytes = uris_[index].bytes;
+            for (qsizetype done = 0; done < bytes.size(); done += PieceBytes)
+                pieces.push_back({out.size() + done / 3 * 4,
+                                  bytes.sliced(done, std::min(PieceBytes, bytes.size() - done))});
+            out.resize(out.size() + (bytes.size() + 2) / 3 * 4);
             out += '"';
             from = end + 1;
         }
         out += QByteArrayView(json).sliced(from);
         out += QByteArrayView(page).sliced(at + mark.size());
+        char* base = out.data();
+        const auto encode = [&](size_t first) {
+            for (size_t i = first; i < pieces.size(); i += 2)
+                Base64Into(base + pieces[i].at, pieces[i].bytes);
+        };
+        auto other = std::async(std::launch::async, encode, 1);
+        encode(0);
+        other.get();
         return out;
     }
 
@@ -104,6 +135,7 @@ private:
         QByteArray bytes;
     };
     static constexpr QByteArrayView Written = "\"\\u0001uri"; // how the JSON writer escapes Mark
+    static constexpr qsizetype PieceBytes = 3 << 18;          // whole groups of three
     static inline const QString Mark = QStringLiteral("\u0001uri");
 
     std::vector<Uri> uris_;
@@ -227,19 +259,28 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     if (FrameSize(doc).isEmpty())
         return QByteArray();
     std::future<PageTexts> texts = std::async(std::launch::async, TextLayers, std::cref(doc));
-    // The pages are the package's own, the home page the players' own.
+    // The pages are the package's own, the home page the players' own: painted and
+    // compressed from the package's beginning while its pages are still being drawn.
+    const QByteArray background = DefaultHomeBackground(ctx);
+    const auto paintHome = [&res, background](const PackageContents& package) {
+        const ShowPictures pictures(package, res, background, {});
+        return EncodeJpeg(pictures.picture(show::HomePicture), PageQuality);
+    };
+    std::future<QByteArray> home;
+    PackageWatch watch;
+    ShowPictures::EmptyPages judged;
+    watch.judged = &judged;
+    watch.head = [&](PackageContents head) {
+        home = std::async(std::launch::async, paintHome, std::move(head));
+    };
     PackageContents package;
     QStringList warnings;
     QString error;
-    if (!DocumentPackage(doc, ctx, res, package, warnings, error))
+    if (!DocumentPackage(doc, ctx, res, package, warnings, error, watch))
         return QByteArray();
-    const ShowPictures pictures(package, res, DefaultHomeBackground(ctx),
-                                ShowPictures::Pages::OnlyJudged);
-
-    // The home picture is painted and compressed while the pages' layers are laid out.
-    std::future<QByteArray> home = std::async(std::launch::async, [&pictures] {
-        return EncodeJpeg(pictures.picture(show::HomePicture), PageQuality);
-    });
+    if (!home.valid())
+        home = std::async(std::launch::deferred, paintHome, std::cref(package));
+    const ShowPictures pictures(package, res, background, judged);
 
     QJsonObject show = WebShowNumbers(doc, pictures.showOrder());
     show.insert("title", PersonName(doc));
@@ -251,13 +292,13 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
             return QByteArray();
         pages.insert(QString::number(page),
                      PageLayer(doc, page, pageTexts[size_t(page)],
-                               package.blob(show::PageEntryOfTab(page)), uris));
+                               package.blobView(show::PageEntryOfTab(page)), uris));
     }
     if (!GoOn(progress, SlideShowTab + 1, SlideShowTab + 1))
         return QByteArray();
     show.insert("home", HomeLayer(doc, pictures, home.get(), uris));
     show.insert("pages", pages);
-    const QByteArray music = package.blob(show::Package::MusicEntry);
+    const QByteArray music = package.blobView(show::Package::MusicEntry);
     if (!music.isEmpty())
         show.insert("music", uris.add("audio/mpeg", music));
 

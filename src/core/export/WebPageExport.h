@@ -21,8 +21,10 @@ class ResImages;
 QByteArray RenderWebPage(const Document& doc, const ResImages& res, const ProcessContext& ctx,
                          const Progress& progress = {});
 
-// Appends `bytes` in base64 to `out`: into the room already reserved there, when it was,
-// with no buffer of its own to copy from.
+// Writes `bytes` in base64 at `out` (four digits for every three bytes, the last group
+// padded with '='); returns the end of what it wrote.
+char* Base64Into(char* out, QByteArrayView bytes);
+// The same appended to `out`.
 void AppendBase64(QByteArray& out, QByteArrayView bytes);
 
 } // namespace zentor

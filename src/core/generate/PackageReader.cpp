@@ -21,6 +21,12 @@ QByteArray PackageContents::blob(int entry) const {
     return r.Length > 0 ? Data.mid(qsizetype(r.Offset), qsizetype(r.Length)) : QByteArray();
 }
 
+QByteArray PackageContents::blobView(int entry) const {
+    const show::BlobRange r = Info.range(entry);
+    return r.Length > 0 ? QByteArray::fromRawData(Data.constData() + r.Offset, qsizetype(r.Length))
+                        : QByteArray();
+}
+
 PackageContents ParsePackage(QByteArray data, PackageForm form) {
     PackageContents p;
     p.Data = std::move(data);

@@ -33,6 +33,8 @@ struct PackageContents {
 
     // The blob of a present entry that lies inside the file; empty otherwise.
     QByteArray blob(int entry) const;
+    // The same without a copy: it looks into Data and is valid only while Data is.
+    QByteArray blobView(int entry) const;
     bool usable(int entry) const;
 };
 

@@ -23,7 +23,10 @@ std::optional<QByteArray> RenderedPictures::resample(const QString& path, int wi
 }
 
 std::optional<QByteArray> RenderedPictures::renderPage(const Document& doc, int page) {
-    QByteArray jpeg = RenderPageJpeg(doc, page, res_, &cache_);
+    QImage picture;
+    QByteArray jpeg = RenderPageJpeg(doc, page, res_, &cache_, pageSeen_ ? &picture : nullptr);
+    if (pageSeen_ && !picture.isNull())
+        pageSeen_(page, picture);
     return jpeg.isEmpty() ? std::nullopt : std::optional<QByteArray>(std::move(jpeg));
 }
 

@@ -4,7 +4,10 @@
 #include "model/ProcessContext.h"
 #include "render/PictureCache.h"
 
+#include <QImage>
+
 #include <atomic>
+#include <functional>
 
 namespace zentor {
 
@@ -23,11 +26,17 @@ public:
     void pageWritten(Document& doc, int page) override;
     bool reentrant() const override { return true; }
 
+    // Shown each page as it is rendered, before it is compressed; called on the rendering
+    // thread, so several at once.
+    using PageSeen = std::function<void(int page, const QImage& picture)>;
+    void setPageSeen(PageSeen seen) { pageSeen_ = std::move(seen); }
+
 private:
     const ProcessContext& ctx_;
     const ResImages& res_;
     PictureCache cache_;
     std::atomic<int> serial_{0};
+    PageSeen pageSeen_;
 };
 
 } // namespace zentor

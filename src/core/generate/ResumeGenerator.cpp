@@ -5,12 +5,14 @@
 #include "io/FileUtil.h"
 #include "io/RecordCodec.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
 
 #include <exception>
 #include <memory>
+#include <optional>
 
 namespace zentor {
 namespace {
@@ -37,23 +39,27 @@ struct PictureJob {
 
 } // namespace
 
-// One run of the procedure: the open file, the running position and the failure state.
+// One run of the procedure: the device written, the running position and the failure state.
+// The temporary picture is a file in the work folder, or bytes in memory for a package that
+// never leaves the program.
 class ResumeGenerator::Writer {
 public:
-    Writer(ResumeGenerator& gen, Document& doc, const QString& path)
-        : gen_(gen), doc_(doc), path_(path), file_(path) {}
+    // `memory` is what `out` writes into when the package is made in memory.
+    Writer(ResumeGenerator& gen, Document& doc, QIODevice& out, const QString& name,
+           const QByteArray* memory)
+        : gen_(gen), doc_(doc), out_(out), name_(name), memory_(memory) {}
 
     bool run(bool selfRun);
     bool cancelled() const { return cancelled_; }
 
-private:
     bool fail() {
-        gen_.prompter_.warn(WriteErrorTitle, QStringLiteral("Can't create file : ") + path_);
+        gen_.prompter_.warn(WriteErrorTitle, QStringLiteral("Can't create file : ") + name_);
         return false;
     }
 
+private:
     bool write(const QByteArray& bytes) {
-        if (file_.write(bytes) != bytes.size())
+        if (out_.write(bytes) != bytes.size())
             return false;
         position_ += bytes.size();
         return true;
@@ -62,10 +68,17 @@ private:
     // The whole-file reader: on failure it says so and leaves the shared buffer alone.
     qint64 read(const QString& path) {
         const QString p = path.trimmed().isEmpty() ? gen_.ctx_.TempImagePath : path.trimmed();
-        const qint64 n = ReadFileBytes(p, gen_.FileBytes);
-        if (n == 0 && !(IsRegularFile(p) && QFileInfo(p).size() == 0))
-            gen_.prompter_.warn(ReadErrorTitle, QStringLiteral("Can't find the file: ") + p);
-        return n;
+        if (memory_ && p == gen_.ctx_.TempImagePath) {
+            if (temp_) {
+                gen_.FileBytes = *temp_;
+                return gen_.FileBytes.size();
+            }
+        } else if (const qint64 n = ReadFileBytes(p, gen_.FileBytes);
+                   n > 0 || (IsRegularFile(p) && QFileInfo(p).size() == 0)) {
+            return n;
+        }
+        gen_.prompter_.warn(ReadErrorTitle, QStringLiteral("Can't find the file: ") + p);
+        return 0;
     }
 
     // Notes the entry, reads the blob's source and appends the shared buffer. A source that
@@ -85,19 +98,25 @@ private:
 
     // A resampled picture or a page goes through the temporary picture, read back whole.
     bool appendPicture(int entry, size_t job) {
-        if (const auto jpeg = jobs_->take(job)) {
-            QFile temp(gen_.ctx_.TempImagePath);
-            if (temp.open(QIODevice::WriteOnly | QIODevice::Truncate))
-                temp.write(*jpeg);
+        if (auto jpeg = jobs_->take(job)) {
+            if (memory_) {
+                temp_ = std::move(*jpeg);
+            } else {
+                QFile temp(gen_.ctx_.TempImagePath);
+                if (temp.open(QIODevice::WriteOnly | QIODevice::Truncate))
+                    temp.write(*jpeg);
+            }
         }
         return append(entry, PackPicture, QString());
     }
 
     ResumeGenerator& gen_;
     Document& doc_;
-    QString path_;
-    QFile file_;
-    qint64 position_ = 1; // 1-based position of the next byte
+    QIODevice& out_;
+    QString name_;
+    const QByteArray* memory_;       // the temporary picture is kept in memory too
+    std::optional<QByteArray> temp_; // the temporary picture when it is kept in memory
+    qint64 position_ = 1;            // 1-based position of the next byte
     std::unique_ptr<Document> snapshot_;
     std::unique_ptr<PictureJobs> jobs_; // after snapshot_: its workers read the copy
     bool cancelled_ = false;
@@ -105,8 +124,6 @@ private:
 
 bool ResumeGenerator::Writer::run(bool selfRun) {
     gen_.Entries = PackTable{};
-    if (!file_.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return fail();
     qint64 tableAt = 0;
     if (selfRun) {
         if (gen_.player_.size() != gen_.ctx_.PlayerStubSize)
@@ -159,6 +176,11 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
     if (!tidyPath(doc_.Header.BackPicture).isEmpty() &&
         !appendPicture(Package::BackPictureEntry, nextJob++))
         return fail();
+    if (memory_ && gen_.headWritten_) {
+        QByteArray head = memory_->left(position_ - 1);
+        head.replace(tableAt, Package::TableSize, EncodePackTable(gen_.Entries));
+        gen_.headWritten_(head);
+    }
     const QString music = tidyPath(doc_.Header.BackMusic);
     if (!music.isEmpty() &&
         !append(Package::MusicEntry, PackMusic, ResolvePath(doc_.ScriptPath, music)))
@@ -167,8 +189,6 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
         if (!GoOn(gen_.progress_, page, Package::PageCount)) {
             cancelled_ = true;
             jobs_.reset();
-            file_.remove(); // a cancelled run leaves no part of a package behind
-            QFile::remove(gen_.ctx_.TempImagePath);
             return false;
         }
         if (!appendPicture(Package::FirstPageEntry + page - 1, nextJob++))
@@ -177,16 +197,8 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
     }
     jobs_.reset();
 
-    if (!file_.seek(tableAt) || file_.write(EncodePackTable(gen_.Entries)) != Package::TableSize ||
-        !file_.flush())
+    if (!out_.seek(tableAt) || out_.write(EncodePackTable(gen_.Entries)) != Package::TableSize)
         return fail();
-    file_.close();
-    if (file_.error() != QFileDevice::NoError)
-        return fail();
-    if (selfRun)
-        file_.setPermissions(file_.permissions() | QFileDevice::ExeOwner | QFileDevice::ExeGroup |
-                             QFileDevice::ExeOther);
-    QFile::remove(gen_.ctx_.TempImagePath);
     return true;
 }
 
@@ -216,16 +228,54 @@ ResumeGenerator::Outcome ResumeGenerator::GenerateResume(Document& doc, bool sel
 ResumeGenerator::Outcome ResumeGenerator::writePackage(Document& doc, const QString& path,
                                                        bool selfRun) {
     ctx_.ensureWorkFolder();
-    Writer writer(*this, doc, path);
+    QFile file(path);
+    Writer writer(*this, doc, file, path, nullptr);
+    const Outcome outcome = run(
+        [&] {
+            if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+                return writer.fail();
+            if (!writer.run(selfRun)) {
+                if (writer.cancelled()) {
+                    file.remove(); // a cancelled run leaves no part of a package behind
+                    QFile::remove(ctx_.TempImagePath);
+                }
+                return false;
+            }
+            if (!file.flush())
+                return writer.fail();
+            file.close();
+            if (file.error() != QFileDevice::NoError)
+                return writer.fail();
+            if (selfRun)
+                file.setPermissions(file.permissions() | QFileDevice::ExeOwner |
+                                    QFileDevice::ExeGroup | QFileDevice::ExeOther);
+            QFile::remove(ctx_.TempImagePath);
+            return true;
+        },
+        writer, path);
+    if (outcome == Outcome::Written)
+        writtenPath_ = path;
+    return outcome;
+}
+
+ResumeGenerator::Outcome ResumeGenerator::writePackageData(Document& doc, QByteArray& out) {
+    ctx_.ensureWorkFolder();
+    out.clear();
+    QBuffer buffer(&out);
+    buffer.open(QIODevice::WriteOnly);
+    Writer writer(*this, doc, buffer, QString(), &out);
+    return run([&] { return writer.run(false); }, writer, QString());
+}
+
+ResumeGenerator::Outcome ResumeGenerator::run(const std::function<bool()>& write, Writer& writer,
+                                              const QString& name) {
     try {
-        if (writer.run(selfRun)) {
-            writtenPath_ = path;
+        if (write())
             return Outcome::Written;
-        }
         return writer.cancelled() ? Outcome::Cancelled : Outcome::Failed;
     } catch (const std::exception&) {
         // Out of memory while decoding or rendering ends like any other failure to write.
-        prompter_.warn(WriteErrorTitle, QStringLiteral("Can't create file : ") + path);
+        prompter_.warn(WriteErrorTitle, QStringLiteral("Can't create file : ") + name);
         return Outcome::Failed;
     }
 }

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 
 namespace zentor {
@@ -47,6 +48,17 @@ public:
     // through the prompter like GenerateResume.
     Outcome writePackage(Document& doc, const QString& path, bool selfRun);
 
+    // The same data file made in memory, for a program that shows or exports it: the same
+    // bytes, the temporary picture kept in memory, nothing written to disk but resampling's
+    // scratch pictures.
+    Outcome writePackageData(Document& doc, QByteArray& out);
+    // Shown, when the package is made in memory, the package up to its pages once all that
+    // comes before them but the music is written, with the entry table as it stands: what
+    // the home page is drawn from, while the pages are still being drawn.
+    void setHeadWritten(std::function<void(const QByteArray& head)> seen) {
+        headWritten_ = std::move(seen);
+    }
+
     // The extension rule: `path` gets ".exe" or ".qdv" unless its last four characters are
     // exactly that (case matters: "cv.EXE" becomes "cv.EXE.exe").
     static QString withExtension(const QString& path, bool selfRun);
@@ -61,6 +73,7 @@ public:
 
 private:
     class Writer;
+    Outcome run(const std::function<bool()>& write, Writer& writer, const QString& name);
     const ProcessContext& ctx_;
     Prompter& prompter_;
     PackagePictures& pictures_;
@@ -69,6 +82,7 @@ private:
     bool parallel_ = false;
     qint64 positionLimit_ = std::numeric_limits<int32_t>::max();
     Progress progress_;
+    std::function<void(const QByteArray&)> headWritten_;
 };
 
 } // namespace zentor

@@ -6,6 +6,9 @@
 
 #include <cerrno>
 #include <csignal>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <unistd.h>
 
 namespace zentor {
@@ -101,6 +104,13 @@ void PrepareRuntimeDir() {
     QFile::setPermissions(dir,
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(dir));
+}
+
+void KeepFreedMemory() {
+#ifdef __GLIBC__
+    mallopt(M_MMAP_THRESHOLD, 32 << 20); // the largest the heap takes
+    mallopt(M_TRIM_THRESHOLD, 256 << 20);
+#endif
 }
 
 QString CommandLineFromArguments(const QStringList& argsWithoutProgram) {

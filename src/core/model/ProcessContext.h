@@ -51,6 +51,12 @@ bool ProcessGone(qint64 pid);
 // private one first. Call before creating the application object.
 void PrepareRuntimeDir();
 
+// Keeps freed memory in the heap for reuse instead of handing it back at once. Pictures are
+// decoded, scaled and compressed into buffers of megabytes that are freed and asked for
+// again moments later; memory handed back returns a page fault at a time, and on a virtual
+// machine a fault costs more than the copy it serves. Called once at start.
+void KeepFreedMemory();
+
 // The command-line rule: the arguments after the program name joined by single spaces;
 // then a trailing double quote and after it a leading one are removed.
 QString CommandLineFromArguments(const QStringList& argsWithoutProgram);

@@ -69,9 +69,11 @@ QImage RenderPageImage(const Document& doc, int page, const ResImages& res, Pict
     return canvas;
 }
 
-QByteArray RenderPageJpeg(const Document& doc, int page, const ResImages& res,
-                          PictureCache* cache) {
+QByteArray RenderPageJpeg(const Document& doc, int page, const ResImages& res, PictureCache* cache,
+                          QImage* image) {
     const QImage img = RenderPageImage(doc, page, res, cache);
+    if (image)
+        *image = img;
     return img.isNull() ? QByteArray() : EncodeJpeg(img, 95);
 }
 

@@ -46,9 +46,10 @@ QImage RenderPageImage(const Document& doc, int page, const ResImages& res,
 void PaintPage(QPainter& p, const Document& doc, int page, const ResImages& res,
                PictureCache* cache = nullptr, bool withTexts = true);
 
-// The same page as JPEG bytes of quality 95 (empty on failure).
+// The same page as JPEG bytes of quality 95 (empty on failure); the picture they were made
+// from in `image` when asked.
 QByteArray RenderPageJpeg(const Document& doc, int page, const ResImages& res,
-                          PictureCache* cache = nullptr);
+                          PictureCache* cache = nullptr, QImage* image = nullptr);
 
 // What rendering a page writes back into the document: the trimmed path of the tab
 // picture of the page shown (page 8 shows tab 1). Run on one thread, after rendering.

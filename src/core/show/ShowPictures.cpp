@@ -30,51 +30,45 @@ QSize SaneFrame(const show::ShowHeader& h) {
     return QSize(f.Width, f.Height);
 }
 
-// A page that holds nothing comes out one flat colour. It is judged at a quarter of the
-// frame, as every player judges it, which also smooths away the JPEG's noise.
 QSize Quarter(QSize frame) {
     return (frame / 4).expandedTo(QSize(1, 1));
-}
-
-bool IsEmptyPage(const QImage& page, QSize frame) {
-    const QImage small =
-        (page.size() == Quarter(frame)
-             ? page
-             : page.scaled(Quarter(frame), Qt::IgnoreAspectRatio, Qt::SmoothTransformation))
-            .convertToFormat(QImage::Format_RGB32);
-    return show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()), small.width(),
-                               small.height(), int(small.bytesPerLine() / 4));
 }
 
 } // namespace
 
 ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
-                           const QByteArray& defaultBackground, Pages pages)
-    : res_(res), frame_(SaneFrame(package.Info.Header)), defaultBackground_(defaultBackground) {
+                           const QByteArray& defaultBackground, const EmptyPages& judged)
+    : res_(res), frame_(SaneFrame(package.Info.Header)), data_(package.Data),
+      defaultBackground_(defaultBackground) {
     const uint32_t c = uint32_t(package.Header.BackColor); // 0x00BBGGRR
     backColor_ = qRgb(int(c & 0xFF), int((c >> 8) & 0xFF), int((c >> 16) & 0xFF));
+    // Views into the package's bytes, which data_ shares and so keeps alive.
     for (int entry = 0; entry < Package::EntryCount; ++entry)
-        blobs_[size_t(entry)] = package.blob(entry);
+        blobs_[size_t(entry)] = package.blobView(entry);
     for (int tab = 1; tab <= Package::TabNameCount; ++tab)
         tabNames_[size_t(tab)] = package.TabNames[size_t(tab - 1)].text();
     tabNames_[8] = QString::fromLatin1(show::SlideShowTabName);
     person_ = package.Profile.FirstName.text().trimmed() + QLatin1Char(' ') +
               package.Profile.LastName.text().trimmed();
     contacts_ = show::LayoutHome(package.Info.Profile, frame_.width(), frame_.height());
+    order_ = show::ShowOrder(judged);
+}
+
+ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
+                           const QByteArray& defaultBackground)
+    : ShowPictures(package, res, defaultBackground, EmptyPages{}) {
     // Every page is decoded once, side by side, and kept for showing; a page that cannot be
     // decoded is not called empty: the show keeps its place.
-    const QSize size = pages == Pages::Shown ? frame_ : Quarter(frame_);
     std::vector<std::future<std::optional<QImage>>> decoding;
     for (int entry : show::PageOrder)
         decoding.push_back(
-            std::async(std::launch::async, [this, entry, size] { return loadPage(entry, size); }));
-    std::array<bool, Package::EntryCount> empty{};
+            std::async(std::launch::async, [this, entry] { return loadPage(entry); }));
+    EmptyPages empty{};
     for (size_t i = 0; i < decoding.size(); ++i) {
         const int entry = show::PageOrder[i];
         const std::optional<QImage> page = decoding[i].get();
         empty[size_t(entry)] = page && IsEmptyPage(*page, frame_);
-        if (pages == Pages::Shown)
-            cache_.insert(CacheKey(entry, 0, frame_), page ? *page : backPage());
+        cache_.insert(CacheKey(entry, 0, frame_), page ? *page : backPage());
     }
     order_ = show::ShowOrder(empty);
 }
@@ -158,6 +152,56 @@ QImage ShowPictures::scaled(int picture, int hoverIcon, QSize size) const {
     }
     cache_.insert(key, img);
     return img;
+}
+
+namespace {
+
+// Whether some 4 x 4 block of a frame-sized page averages clearly apart from the first one.
+// The quarter the judging looks at is those averages (the smooth scaler averages areas,
+// give or take one in rounding), so such a page is not flat; most pages that hold something
+// tell so within their first row of blocks, long before a quarter could be made.
+bool ClearlyNotFlat(const QImage& page, QSize frame) {
+    const bool format = page.format() == QImage::Format_RGB32 ||
+                        page.format() == QImage::Format_ARGB32_Premultiplied;
+    if (page.size() != frame || frame.width() % 4 || frame.height() % 4 || !format)
+        return false;
+    const int limit = 16 * (show::FlatTolerance + 2);
+    std::array<int, 3> first{};
+    for (int y = 0; y < frame.height(); y += 4) {
+        for (int x = 0; x < frame.width(); x += 4) {
+            std::array<int, 3> sum{};
+            for (int dy = 0; dy < 4; ++dy) {
+                const auto* row = reinterpret_cast<const QRgb*>(page.constScanLine(y + dy)) + x;
+                for (int dx = 0; dx < 4; ++dx) {
+                    if (qAlpha(row[dx]) != 255)
+                        return false; // judged as the quarter makes it opaque
+                    sum[0] += qRed(row[dx]);
+                    sum[1] += qGreen(row[dx]);
+                    sum[2] += qBlue(row[dx]);
+                }
+            }
+            if (x == 0 && y == 0)
+                first = sum;
+            for (size_t c = 0; c < 3; ++c)
+                if (std::abs(sum[c] - first[c]) > limit)
+                    return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool IsEmptyPage(const QImage& page, QSize frame) {
+    if (ClearlyNotFlat(page, frame))
+        return false;
+    const QImage small =
+        (page.size() == Quarter(frame)
+             ? page
+             : page.scaled(Quarter(frame), Qt::IgnoreAspectRatio, Qt::SmoothTransformation))
+            .convertToFormat(QImage::Format_RGB32);
+    return show::IsFlatPicture(reinterpret_cast<const uint32_t*>(small.constBits()), small.width(),
+                               small.height(), int(small.bytesPerLine() / 4));
 }
 
 QRect FrameTarget(QSize frame, QSize size) {

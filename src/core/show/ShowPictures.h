@@ -25,15 +25,17 @@ namespace zentor {
 // once, and both scaled to the sizes asked for. Safe to share between threads.
 class ShowPictures {
 public:
-    // What the pages are decoded for: to be shown (each decoded once, at frame size, and
-    // kept), or only to be judged empty or not (decoded at the quarter the judging looks at;
-    // the web page shows the package's own bytes).
-    enum class Pages { Shown, OnlyJudged };
+    using EmptyPages = std::array<bool, Package::EntryCount>;
 
     // `defaultBackground` is the encoded picture the home page shows when the package
-    // carries no background of its own (or one that cannot be decoded).
+    // carries no background of its own (or one that cannot be decoded). Every page is
+    // decoded at once, judged and kept.
     ShowPictures(const PackageContents& package, const ResImages& res,
-                 const QByteArray& defaultBackground, Pages pages = Pages::Shown);
+                 const QByteArray& defaultBackground);
+    // For a package whose pages were judged as they were rendered (IsEmptyPage) and are
+    // not shown from here: none is decoded.
+    ShowPictures(const PackageContents& package, const ResImages& res,
+                 const QByteArray& defaultBackground, const EmptyPages& judged);
 
     // The package's frame (800 x 600 when its header's is not a sane one).
     QSize frame() const { return frame_; }
@@ -61,7 +63,8 @@ private:
     const ResImages& res_;
     QSize frame_;
     QRgb backColor_ = 0xFF000000u;
-    std::array<QByteArray, 19> blobs_;
+    QByteArray data_; // the package's bytes, which blobs_ look into
+    std::array<QByteArray, Package::EntryCount> blobs_;
     QByteArray defaultBackground_;
     std::array<QString, 9> tabNames_;
     QString person_;
@@ -73,6 +76,10 @@ private:
     mutable std::mutex mutex_;
     mutable QHash<quint64, QImage> cache_; // (picture, hover, size) -> image
 };
+
+// Whether a page picture holds nothing: one flat colour, judged at a quarter of the frame as
+// every player judges it (which also smooths away a JPEG's noise).
+bool IsEmptyPage(const QImage& page, QSize frame);
 
 // The window's picture of `state` at `size`: Previous, then Picture over it at Alpha, the
 // frame scaled to fit `size` keeping its shape, centred on the back colour. The player's
