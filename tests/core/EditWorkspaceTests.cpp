@@ -340,10 +340,12 @@ TEST(EditUndo, EveryKindOfChangeIsOneNamedStepThatUndoesAndRedoesToTheSameBytes)
         EXPECT_EQ(SavedBytes(*f.doc), before);
         // The selection never stays on an object the step took away.
         const EditorState& st = f.editor.state();
-        if (st.SelectedKind == KindImage)
+        if (st.SelectedKind == KindImage) {
             EXPECT_EQ(f.doc->Images[st.SelectedIndex].TabNo, 1);
-        if (st.SelectedKind == KindText)
+        }
+        if (st.SelectedKind == KindText) {
             EXPECT_EQ(f.doc->Texts[st.SelectedIndex].TabNo, 1);
+        }
         EXPECT_EQ(f.editor.undoStack().redoName(), c.name);
         f.editor.redo();
         EXPECT_EQ(SavedBytes(*f.doc), after);

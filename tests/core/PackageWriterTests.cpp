@@ -304,8 +304,9 @@ TEST_F(GenerateResumeTest, CancelOrNoWritesNothingAndYesReplacesWithTheSameBytes
     EXPECT_EQ(pictures.calls, 0);
     QByteArray first;
     for (const Answer answer : {Answer::No, Answer::Yes, Answer::Yes}) {
-        if (first.isEmpty())
+        if (first.isEmpty()) {
             ASSERT_TRUE(WriteAll(path, old));
+        }
         ScriptedPrompter prompter;
         prompter.expectFile(true, QdvTitle, QdvFilter, box.path("cv"))
             .expectQuestion("Generate Resume", Overwrite, answer);
@@ -315,8 +316,9 @@ TEST_F(GenerateResumeTest, CancelOrNoWritesNothingAndYesReplacesWithTheSameBytes
         EXPECT_PROMPTS_DONE(prompter);
         EXPECT_EQ(ReadAll(path) == old, answer == Answer::No);
         EXPECT_FALSE(QFile::exists(box.ctx.TempImagePath));
-        if (answer == Answer::Yes && !first.isEmpty())
+        if (answer == Answer::Yes && !first.isEmpty()) {
             EXPECT_EQ(ReadAll(path), first); // generating again gives the same file
+        }
         if (answer == Answer::Yes)
             first = ReadAll(path);
     }
