@@ -109,10 +109,7 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
         check->reportAfterOutput();
         return generator_->writtenPath();
     });
-    editor_.setExporter([this, check](int command) {
-        const ExportKind kind = command == CmdExportPdf       ? ExportKind::Pdf
-                                : command == CmdExportWebPage ? ExportKind::WebPage
-                                                              : ExportKind::Video;
+    editor_.setExporter([this, check](ExportKind kind) {
         ProgressRun run(this, ExportTitle(kind));
         QString written;
         RunExport(kind, doc_, prompter_, res_, ctx_, run.progress(), &written);

@@ -187,7 +187,7 @@ TEST(EditMedia, WrittenFilesAndPlayingAreToldInTheStatusBar) {
             asked << path;
             return write(path);
         });
-        f.editor.setExporter([&](int) { return write(QString()); });
+        f.editor.setExporter([&](ExportKind) { return write(QString()); });
         f.editor.setLauncher([&](const QString& program, const QStringList& args) {
             launched << program << args;
             return c.launches;

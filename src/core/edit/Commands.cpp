@@ -112,7 +112,9 @@ void Editor::CommonModth(int index) {
     case CmdExportVideo:
         view_.setPointer(window, Pointer::Hourglass);
         if (export_) {
-            const QString written = export_(index);
+            const QString written = export_(index == CmdExportPdf       ? ExportKind::Pdf
+                                            : index == CmdExportWebPage ? ExportKind::WebPage
+                                                                        : ExportKind::Video);
             if (!written.isEmpty())
                 status_ = WrittenStatus(written);
         }

@@ -4,6 +4,7 @@
 #include "edit/EditorView.h"
 #include "edit/Prompter.h"
 #include "edit/UndoStack.h"
+#include "export/ExportCommand.h"
 #include "model/Document.h"
 #include "model/ProcessContext.h"
 
@@ -45,8 +46,8 @@ public:
     // Writes a package to `path`, or asks where when `path` is empty; returns the path
     // written, empty when nothing was.
     using Generator = std::function<QString(bool selfRun, const QString& path)>;
-    // Runs export `command`; returns the path written, empty when nothing was.
-    using Exporter = std::function<QString(int command)>;
+    // Runs the export of `kind`; returns the path written, empty when nothing was.
+    using Exporter = std::function<QString(ExportKind kind)>;
     // Starts a program on its own; false when it could not be started.
     using Launcher = std::function<bool(const QString& program, const QStringList& args)>;
 
