@@ -1,5 +1,7 @@
 #include "check/Contrast.h"
 
+#include "render/TextLayout.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -40,7 +42,7 @@ QRgb Over(QRgb text, QRgb under) {
 }
 
 double RequiredContrast(int points, int style) {
-    const double pixels = points * 96.0 / 72.0;
+    const double pixels = EmPixels(points);
     const bool bold = style & 1;
     // 14 pt bold is 18.67 px: compared with a hair of room for the rounding of 18.67.
     const bool large = pixels >= 24.0 || (bold && pixels >= 18.66);

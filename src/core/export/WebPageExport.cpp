@@ -171,7 +171,7 @@ QJsonObject TextLayer(const QString& text, double left, double top, double width
     QJsonObject o =
         width > 0 && height > 0 ? Box(int(left), int(top), int(width), int(height)) : QJsonObject();
     o.insert("font", font);
-    o.insert("px", size * 96.0 / 72.0);
+    o.insert("px", EmPixels(size));
     o.insert("bold", bool(style & 1));
     o.insert("italic", bool(style & 2));
     o.insert("lines", lines);
@@ -184,11 +184,10 @@ using PageTexts = std::array<QJsonArray, SlideShowTab + 1>;
 
 PageTexts TextLayers(const Document& doc) {
     PageTexts texts;
-    for (int page = 1; page <= SlideShowTab; ++page) {
-        const int tab = page == SlideShowTab ? 1 : page;
+    for (int page = 1; page < SlideShowTab; ++page) {
         for (int i = 1; i <= MaxTexts; ++i) {
             const TextElement& t = doc.Texts[size_t(i)];
-            if (t.TabNo != tab)
+            if (t.TabNo != page)
                 continue;
             const QJsonObject o =
                 TextLayer(t.Text.text(), t.Left, t.Top, t.Width, t.Height, t.FontName.trimNull(),
@@ -197,13 +196,14 @@ PageTexts TextLayers(const Document& doc) {
                 texts[size_t(page)].append(o);
         }
     }
+    texts[SlideShowTab] = texts[size_t(ContentTabOf(SlideShowTab))];
     return texts;
 }
 
 // The page's picture objects in drawing order and its texts, for the layer over its picture.
 QJsonObject PageLayer(const Document& doc, int page, const QJsonArray& texts,
                       const QByteArray& jpeg, DataUris& uris) {
-    const int tab = page == SlideShowTab ? 1 : page;
+    const int tab = ContentTabOf(page);
     QJsonArray images;
     for (int i = 1; i <= MaxImages; ++i) {
         const ImageElement& img = doc.Images[size_t(i)];
@@ -244,12 +244,11 @@ QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, const Q
                   QLatin1String(HomeCaptionFont), HomeCaptionPoints, 0, 1, 0);
     if (!caption.isEmpty())
         texts.append(caption);
-    return QJsonObject{
-        {"name", PersonName(doc)},
-        {"picture", uris.add("image/jpeg", jpeg)},
-        {"texts", texts},
-        {"contacts",
-         QJsonObject{{"px", pictures.contacts().FontPoints * 96.0 / 72.0}, {"lines", lines}}}};
+    return QJsonObject{{"name", PersonName(doc)},
+                       {"picture", uris.add("image/jpeg", jpeg)},
+                       {"texts", texts},
+                       {"contacts", QJsonObject{{"px", EmPixels(pictures.contacts().FontPoints)},
+                                                {"lines", lines}}}};
 }
 
 } // namespace

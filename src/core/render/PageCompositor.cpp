@@ -37,7 +37,7 @@ QImage WhiteFrameCanvas(const Document& doc) {
     return canvas;
 }
 
-static int ContentTabOf(int page) {
+int ContentTabOf(int page) {
     return page == SlideShowTab ? 1 : page;
 }
 

@@ -31,6 +31,9 @@ QImage WhiteFrameCanvas(const Document& doc);
 // from the right and 10 from the bottom (240 x 172 at (530, 418) in 800 x 600).
 QRect BadgeRect(QSize frame);
 
+// The content tab page 1..8 shows: its own, but the slide show's page shows tab 1's.
+int ContentTabOf(int page);
+
 // Renders page 1..8 as the generated résumé has it: a frame-sized canvas cleared to white,
 // the tab picture at its stored rectangle, the page's pictures in slot order, then its
 // texts in slot order; page 8 shows page 1's content plus the "HIRED" badge. The document

@@ -29,10 +29,6 @@ constexpr double Unbounded = 1.6e7;
 // Lines that end this close to the box's edge still count as inside it.
 constexpr double Slack = 1e-3;
 
-double EmPixels(int points) {
-    return std::min(points, MaxPoints) * 96.0 / 72.0;
-}
-
 // Windows families and the stand-ins fontconfig maps them to on this system.
 const QHash<QString, QStringList>& Aliases() {
     static const QHash<QString, QStringList> aliases = {
@@ -104,6 +100,10 @@ double Pitch(const QTextLine& line) {
 
 double LayoutScale(int points) {
     return EmPixels(points) / LayoutPixels;
+}
+
+double EmPixels(int points) {
+    return std::min(points, MaxPoints) * 96.0 / 72.0;
 }
 
 QFont LayoutFont(const QString& family, int style) {
