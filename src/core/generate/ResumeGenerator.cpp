@@ -252,7 +252,7 @@ ResumeGenerator::Outcome ResumeGenerator::writePackage(Document& doc, const QStr
             QFile::remove(ctx_.TempImagePath);
             return true;
         },
-        writer, path);
+        writer);
     if (outcome == Outcome::Written)
         writtenPath_ = path;
     return outcome;
@@ -264,18 +264,17 @@ ResumeGenerator::Outcome ResumeGenerator::writePackageData(Document& doc, QByteA
     QBuffer buffer(&out);
     buffer.open(QIODevice::WriteOnly);
     Writer writer(*this, doc, buffer, QString(), &out);
-    return run([&] { return writer.run(false); }, writer, QString());
+    return run([&] { return writer.run(false); }, writer);
 }
 
-ResumeGenerator::Outcome ResumeGenerator::run(const std::function<bool()>& write, Writer& writer,
-                                              const QString& name) {
+ResumeGenerator::Outcome ResumeGenerator::run(const std::function<bool()>& write, Writer& writer) {
     try {
         if (write())
             return Outcome::Written;
         return writer.cancelled() ? Outcome::Cancelled : Outcome::Failed;
     } catch (const std::exception&) {
         // Out of memory while decoding or rendering ends like any other failure to write.
-        prompter_.warn(WriteErrorTitle, QStringLiteral("Can't create file : ") + name);
+        writer.fail();
         return Outcome::Failed;
     }
 }

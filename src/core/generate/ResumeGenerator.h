@@ -73,7 +73,8 @@ public:
 
 private:
     class Writer;
-    Outcome run(const std::function<bool()>& write, Writer& writer, const QString& name);
+    // Runs `write`; running out of memory in it is told as a failure to write.
+    Outcome run(const std::function<bool()>& write, Writer& writer);
     const ProcessContext& ctx_;
     Prompter& prompter_;
     PackagePictures& pictures_;

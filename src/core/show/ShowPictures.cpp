@@ -100,14 +100,12 @@ QImage ShowPictures::paintHome(int hoverIcon) const {
     return canvas.convertToFormat(QImage::Format_RGB32);
 }
 
-std::optional<QImage> ShowPictures::loadPage(int entry, QSize size) const {
-    if (size.isEmpty())
-        size = frame_;
-    QImage img = LoadPictureData(blobs_[size_t(entry)], size);
+std::optional<QImage> ShowPictures::loadPage(int entry) const {
+    QImage img = LoadPictureData(blobs_[size_t(entry)], frame_);
     if (img.isNull())
         return std::nullopt;
-    if (img.size() != size)
-        img = img.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (img.size() != frame_)
+        img = img.scaled(frame_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return img.convertToFormat(QImage::Format_RGB32);
 }
 

@@ -55,8 +55,8 @@ private:
     QImage paintHome(int hoverIcon) const;
     // The background and icons the home page is painted from, decoded on first use.
     const HomePictures& homePictures() const;
-    // A page entry decoded at frame size (or `size`); nothing when it cannot be decoded.
-    std::optional<QImage> loadPage(int entry, QSize size = QSize()) const;
+    // A page entry decoded at frame size; nothing when it cannot be decoded.
+    std::optional<QImage> loadPage(int entry) const;
     // What stands for a page that cannot be decoded: the back colour.
     QImage backPage() const;
 
