@@ -38,16 +38,20 @@ TEST(WebShow, PagesAreJudgedEmptyByTheirQuarter) {
     };
     const struct {
         QPoint at;
-        int darker; // one pixel this much darker than the white page; 0 none
+        int darker; // a square this much darker than the white page; 0 none
+        int side = 1;
     } cases[] = {{{0, 0}, 0},     {{0, 0}, 255},     {{799, 599}, 255}, {{799, 0}, 170},
-                 {{0, 599}, 150}, {{402, 301}, 140}, {{402, 301}, 120}, {{5, 5}, 100}};
+                 {{0, 599}, 150}, {{402, 301}, 140}, {{402, 301}, 120}, {{5, 5}, 100},
+                 {{7, 4}, 60, 2}, {{4, 7}, 60, 2}}; // split across two blocks: faint in each
     for (const auto& c : cases) {
         for (const QImage::Format format :
              {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied}) {
             QImage page(frame, format);
             page.fill(0xFFFFFFFFu);
             const int v = 255 - c.darker;
-            page.setPixel(c.at, qRgb(v, v, v));
+            for (int dy = 0; dy < c.side; ++dy)
+                for (int dx = 0; dx < c.side; ++dx)
+                    page.setPixel(c.at + QPoint(dx, dy), qRgb(v, v, v));
             SCOPED_TRACE(testing::Message() << c.at.x() << "," << c.at.y() << " darker by "
                                             << c.darker << " format " << format);
             EXPECT_EQ(IsEmptyPage(page, frame), exact(page));
