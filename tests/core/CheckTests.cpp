@@ -54,100 +54,92 @@ Seen KindsAndTabs(const std::vector<Finding>& findings) {
 
 TEST(Check, EachKindIsFoundOnlyWhereItIs) {
     Sandbox box;
+    using Change = std::function<void(Document&)>;
     struct Case {
         const char* what;
-        std::function<void(Document&)> change;
+        Change change;
         Seen expected;
     };
     const auto text = [](Document& d, int slot) -> TextElement& { return d.Texts[size_t(slot)]; };
+    const auto words = [&](int slot, const char* s) -> Change {
+        return [=](Document& d) { text(d, slot).Text = QString::fromUtf8(s); };
+    };
+    const auto colour = [&](int slot, uint32_t argb, int shadow = 0) -> Change {
+        return [=](Document& d) {
+            text(d, slot).FontColor = int32_t(argb);
+            text(d, slot).FontShadow = shadow;
+        };
+    };
     // A dark picture under the start of page 6's text, `width` wide from the page's left.
-    const auto dark = [&](Document& d, int width, int left = 0) {
-        PlaceImage(d, 1, 6, QRect(left, 0, width, 200),
-                   Picture(box, "dark.png", width, 200, 0xFF202020));
+    const auto dark = [&](int width, int left = 0, Change also = {}) -> Change {
+        return [=, &box](Document& d) {
+            PlaceImage(d, 1, 6, QRect(left, 0, width, 200),
+                       Picture(box, "dark.png", width, 200, 0xFF202020));
+            if (also)
+                also(d);
+        };
     };
-    const auto grey = [&](Document& d, int points, int style) {
-        text(d, 2).FontColor = int32_t(0xFF888888); // 3.5:1
-        text(d, 2).FontSize = points;
-        text(d, 2).FontStyle = style;
+    const auto grey = [&](int points, int style) -> Change {
+        return [=](Document& d) {
+            text(d, 2).FontColor = int32_t(0xFF888888); // 3.5:1
+            text(d, 2).FontSize = points;
+            text(d, 2).FontStyle = style;
+        };
     };
-    const auto drawn = [&](Document& d, QRect r, int w = 100, int h = 50) {
-        PlaceImage(d, 1, 7, r, Picture(box, "small.png", w, h));
+    // A 100 x 50 picture drawn on page 7 at `r`.
+    const auto drawn = [&](QRect r) -> Change {
+        return
+            [=, &box](Document& d) { PlaceImage(d, 1, 7, r, Picture(box, "small.png", 100, 50)); };
+    };
+    const auto userIcon = [&](int side) -> Change {
+        return [=, &box](Document& d) {
+            d.Profile.UserIcon = Picture(box, QStringLiteral("icon%1.png").arg(side), side, side);
+        };
     };
     using K = FindingKind;
     const Case cases[] = {
         {"correct sentences, black on white", [](Document&) {}, {}},
-        {"a misspelt word",
-         [&](Document& d) { text(d, 3).Text = "I recieved an award."; },
-         {{K::Spelling, 3}}},
+        {"a misspelt word", words(3, "I recieved an award."), {{K::Spelling, 3}}},
         {"a misspelt page name",
          [](Document& d) { d.Tabs[6].Name = "Objectve"; },
          {{K::Spelling, 6}}},
         {"the person's names, addresses and numbers",
          [&](Document& d) {
              d.Profile.Address = "12 Brynmawrstraat";
-             text(d, 2).Text = QStringLiteral(
-                 "Quorvix Vitara (quorvix@zentorbox.example, www.qvitara.example, "
-                 "qvitara.example/cv) lives at Brynmawrstraat, built 3D models in 2024.");
+             words(2, "Quorvix Vitara (quorvix@zentorbox.example, www.qvitara.example, "
+                      "qvitara.example/cv) lives at Brynmawrstraat, built 3D models in 2024.")(d);
          },
          {}},
         {"more lines than the box holds",
          [&](Document& d) {
-             text(d, 4).Text = "One line.\nTwo lines.\nThree lines.\nFour.";
+             words(4, "One line.\nTwo lines.\nThree lines.\nFour.")(d);
              text(d, 4).Height = 30;
          },
          {{K::Overflow, 4}}},
         {"a word wider than its box",
          [&](Document& d) {
-             text(d, 5).Text = "Internationalisation";
+             words(5, "Internationalisation")(d);
              text(d, 5).Width = 40;
              d.Profile.Address = "Internationalisation"; // spelling aside
          },
          {{K::Overflow, 5}}},
-        {"light grey on white",
-         [&](Document& d) { text(d, 1).FontColor = int32_t(0xFFBBBBBB); },
-         {{K::Contrast, 1}}},
-        {"white on white with a shadow outlining it",
-         [&](Document& d) {
-             text(d, 1).FontColor = int32_t(0xFFFFFFFF);
-             text(d, 1).FontShadow = -1;
-         },
-         {}},
+        {"light grey on white", colour(1, 0xFFBBBBBB), {{K::Contrast, 1}}},
+        {"white on white with a shadow outlining it", colour(1, 0xFFFFFFFF, -1), {}},
         {"dark blue over a dark picture: its black shadow does not help",
-         [&](Document& d) {
-             text(d, 6).FontColor = int32_t(0xFF000080);
-             text(d, 6).FontShadow = -1;
-             dark(d, 400);
-         },
+         dark(400, 0, colour(6, 0xFF000080, -1)),
          {{K::Contrast, 6}}},
-        {"grey at 12 pt", [&](Document& d) { grey(d, 12, 0); }, {{K::Contrast, 2}}},
-        {"grey at 18 pt is large enough", [&](Document& d) { grey(d, 18, 0); }, {}},
-        {"grey at 14 pt bold is large enough", [&](Document& d) { grey(d, 14, 1); }, {}},
-        {"black text over a dark picture", [&](Document& d) { dark(d, 400); }, {{K::Contrast, 6}}},
-        {"a dark picture under a quarter of the line",
-         [&](Document& d) { dark(d, 80); },
-         {{K::Contrast, 6}}},
-        {"a dark speck at the start of the line", [&](Document& d) { dark(d, 26); }, {}},
+        {"grey at 12 pt", grey(12, 0), {{K::Contrast, 2}}},
+        {"grey at 18 pt is large enough", grey(18, 0), {}},
+        {"grey at 14 pt bold is large enough", grey(14, 1), {}},
+        {"black text over a dark picture", dark(400), {{K::Contrast, 6}}},
+        {"a dark picture under a quarter of the line", dark(80), {{K::Contrast, 6}}},
+        {"a dark speck at the start of the line", dark(26), {}},
         {"a narrow box whose last column is dark",
-         [&](Document& d) {
-             text(d, 6).Width = 3;
-             dark(d, 200, 22);
-         },
+         dark(200, 22, [&](Document& d) { text(d, 6).Width = 3; }),
          {{K::Overflow, 6}, {K::Contrast, 6}}},
-        {"a picture drawn 2 times its pixels",
-         [&](Document& d) {
-             drawn(d, {400, 300, 200, 100});
-         },
-         {{K::Resolution, 7}}},
-        {"drawn 1.5 times its pixels",
-         [&](Document& d) {
-             drawn(d, {400, 300, 150, 75});
-         },
-         {}},
-        {"drawn smaller than its pixels",
-         [&](Document& d) {
-             drawn(d, {400, 300, 80, 40});
-         },
-         {}},
+        {"a picture drawn 2 times its pixels", drawn({400, 300, 200, 100}), {{K::Resolution, 7}}},
+        {"drawn 1.5 times its pixels", drawn({400, 300, 150, 75}), {}},
+        {"drawn smaller than its pixels", drawn({400, 300, 80, 40}), {}},
         {"a tab picture stretched over the page",
          [&](Document& d) {
              ImageElement& p = d.Tabs[2].Picture;
@@ -156,12 +148,8 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
              p.Height = 600;
          },
          {{K::Resolution, 2}}},
-        {"a user icon of 64 x 64",
-         [&](Document& d) { d.Profile.UserIcon = Picture(box, "icon64.png", 64, 64); },
-         {{K::Resolution, 0}}},
-        {"a user icon of 128 x 128",
-         [&](Document& d) { d.Profile.UserIcon = Picture(box, "icon128.png", 128, 128); },
-         {}},
+        {"a user icon of 64 x 64", userIcon(64), {{K::Resolution, 0}}},
+        {"a user icon of 128 x 128", userIcon(128), {}},
         {"a picture, a tab icon and the music that cannot be read",
          [&](Document& d) {
              PlaceImage(d, 1, 3, QRect(400, 300, 80, 40), box.path("gone.png"));

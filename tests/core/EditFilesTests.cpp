@@ -502,19 +502,6 @@ TEST(Recovery, WorkOfAKilledEditorIsOfferedAtTheNextStartAndOnlyGoneRunsAreClear
         f.editor.offerRecovery(); // asked once only
         EXPECT_PROMPTS_DONE(f.prompter);
     }
-    // Restored work is unsaved work, whoever shows it.
-    Sandbox box;
-    auto doc = box.newDocument();
-    doc->Dirty = true; // only unsaved work is kept
-    ASSERT_TRUE(Autosave(*doc, KilledRun(box, gonePid, "g7h8i9")));
-    doc->Dirty = false;
-    ScriptedPrompter p;
-    p.expectAsk("Recover Work",
-                "Vitara Zentor did not end normally last time. Do you want to "
-                "restore the work it had not saved?",
-                Answer::Yes);
-    EXPECT_TRUE(OfferRecovery(*doc, EditorRun(box), p));
-    EXPECT_TRUE(doc->Dirty);
 }
 
 } // namespace

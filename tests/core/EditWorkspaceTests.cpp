@@ -326,6 +326,10 @@ TEST(EditUndo, EveryKindOfChangeIsOneNamedStepThatUndoesAndRedoesToTheSameBytes)
              f.doc->Images[1].Name = "renamed";
              f.editor.recordPending();
          }},
+        {"Cut image 1", [](UndoFixture& f) { EXPECT_FALSE(f.editor.cutSelection().isEmpty()); }},
+        {"Paste image 2",
+         [](UndoFixture& f) { EXPECT_TRUE(f.editor.paste(f.editor.copySelection())); }},
+        {"Duplicate image 2", [](UndoFixture& f) { EXPECT_TRUE(f.editor.duplicate()); }},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -567,44 +571,8 @@ TEST(ObjectClipboard, APasteLandsTenPixelsOnStaysOnThePageAndStepsPastEarlierCop
     }
 }
 
-// Page 1 with picture 1 selected.
-struct ClipFixture : EditorFixture {
-    ClipFixture() {
-        showTab(1);
-        editor.menuCommand(CmdInsertImage);
-        editor.recordPending();
-    }
-};
-
-TEST(EditClipboard, CutPasteAndDuplicateAreOneNamedStepEachThatUndoesToTheSameBytes) {
-    const struct {
-        const char* name;
-        std::function<void(ClipFixture&)> change;
-    } cases[] = {
-        {"Cut image 1", [](ClipFixture& f) { EXPECT_FALSE(f.editor.cutSelection().isEmpty()); }},
-        {"Paste image 2",
-         [](ClipFixture& f) { EXPECT_TRUE(f.editor.paste(f.editor.copySelection())); }},
-        {"Duplicate image 2", [](ClipFixture& f) { EXPECT_TRUE(f.editor.duplicate()); }},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        ClipFixture f;
-        const QByteArray before = SavedBytes(*f.doc);
-        c.change(f);
-        EXPECT_TRUE(f.doc->Dirty);
-        const QByteArray after = SavedBytes(*f.doc);
-        EXPECT_NE(after, before);
-        EXPECT_EQ(f.editor.undoStack().undoName(), QLatin1String(c.name));
-        f.editor.undo();
-        EXPECT_EQ(SavedBytes(*f.doc), before);
-        f.editor.redo();
-        EXPECT_EQ(SavedBytes(*f.doc), after);
-        EXPECT_PROMPTS_DONE(f.prompter);
-    }
-}
-
 TEST(EditClipboard, ThePasteIsSelectedAndAFullTableSaysSo) {
-    ClipFixture f;
+    UndoFixture f;
     ASSERT_TRUE(f.editor.duplicate());
     EXPECT_EQ(f.editor.state().SelectedIndex, 2);
     for (int i = 3; i <= MaxImages; ++i)

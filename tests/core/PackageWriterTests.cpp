@@ -136,14 +136,6 @@ TEST_F(PackageWriterTest, SelfRunningFormIsThePlayerFollowedByTheShiftedPackage)
     EXPECT_TRUE(QFile::permissions(box.path("cv.exe")) & QFileDevice::ExeOwner);
 }
 
-TEST_F(PackageWriterTest, CountsAreWrittenAsTheyStandInMemory) {
-    doc->Header.TextCount = 77;
-    doc->Header.ImageCount = 5;
-    const QByteArray qdv = generate(false);
-    EXPECT_EQ(Int32At(qdv, 228 + 12), 77);
-    EXPECT_EQ(Int32At(qdv, 228 + 16), 5);
-}
-
 // A source that cannot be read keeps its Kind and Position, gets Length 0, and the shared
 // buffer's old bytes are appended where it would have been.
 TEST_F(PackageWriterTest, UnreadableSourceAppendsThePreviousBuffer) {
@@ -201,10 +193,15 @@ TEST_F(PackageWriterTest, UnreadableSourceAppendsThePreviousBuffer) {
     }
 }
 
-TEST_F(PackageWriterTest, PathsAreTidiedOnlyAfterTheRecordsWereWritten) {
+// The records go out as they stand in memory: counts as they are, paths tidied only after.
+TEST_F(PackageWriterTest, RecordsAreWrittenAsTheyStandAndPathsTidiedAfter) {
+    doc->Header.TextCount = 77;
+    doc->Header.ImageCount = 5;
     doc->Profile.UserIcon = "  media/face.png";
     doc->Header.BackMusic = " media/song.mp3";
     const QByteArray qdv = generate(false);
+    EXPECT_EQ(Int32At(qdv, 228 + 12), 77);
+    EXPECT_EQ(Int32At(qdv, 228 + 16), 5);
     EXPECT_TRUE(qdv.mid(792, 16).startsWith("  media/face.png"));
     EXPECT_TRUE(qdv.mid(228 + 20, 16).startsWith(" media/song.mp3"));
     EXPECT_TRUE(QByteArray(doc->Profile.UserIcon.data(), 16).startsWith("media/face.png  "));

