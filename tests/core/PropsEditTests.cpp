@@ -9,9 +9,14 @@
 using namespace zentor;
 using namespace zentor::test;
 
-TEST(PropsEdit, TextCommitsCutAndPadToTheirField) {
+namespace {
+struct PropsEdit : ::testing::Test {
     Sandbox box;
-    auto doc = box.newDocument();
+    std::unique_ptr<Document> doc = box.newDocument();
+};
+} // namespace
+
+TEST_F(PropsEdit, TextCommitsCutAndPadToTheirField) {
     doc->Images[3].TabNo = 2;
     doc->Texts[5].TabNo = 2;
     const PropertyTarget t{2, 3};
@@ -59,9 +64,7 @@ TEST(PropsEdit, TextCommitsCutAndPadToTheirField) {
     EXPECT_TRUE(doc->Texts[4].Text.isNul());
 }
 
-TEST(PropsEdit, TargetsOutsideTheTablesAreRefused) {
-    Sandbox box;
-    auto doc = box.newDocument();
+TEST_F(PropsEdit, TargetsOutsideTheTablesAreRefused) {
     const struct {
         PropertyText box;
         PropertyTarget target;
@@ -86,9 +89,7 @@ TEST(PropsEdit, TargetsOutsideTheTablesAreRefused) {
     }
 }
 
-TEST(PropsEdit, KeepOnTimeKeepsTheOldValueOnANonNumber) {
-    Sandbox box;
-    auto doc = box.newDocument();
+TEST_F(PropsEdit, KeepOnTimeKeepsTheOldValueOnANonNumber) {
     const struct {
         const char* text;
         int32_t expected;
@@ -116,7 +117,7 @@ TEST(PropsEdit, KeepOnTimeKeepsTheOldValueOnANonNumber) {
     }
 }
 
-TEST(PropsEdit, LocationBoxesFallBackToTheRecordPerBox) {
+TEST_F(PropsEdit, LocationBoxesFallBackToTheRecordPerBox) {
     const IntRect record{10, 20, 30, 40};
     const struct {
         std::array<QString, 4> boxes;
@@ -130,9 +131,7 @@ TEST(PropsEdit, LocationBoxesFallBackToTheRecordPerBox) {
         EXPECT_EQ(LocationFromBoxes(r.boxes, record), r.expected);
 }
 
-TEST(PropsEdit, CombosListTheirRowsAndStoreEachRowsValue) {
-    Sandbox box;
-    auto doc = box.newDocument();
+TEST_F(PropsEdit, CombosListTheirRowsAndStoreEachRowsValue) {
     const PropertyTarget t{4, 7};
     const struct {
         PropertyCombo combo;
@@ -187,9 +186,7 @@ TEST(PropsEdit, CombosListTheirRowsAndStoreEachRowsValue) {
     EXPECT_EQ(ComboRow(PropertyCombo::TextHint, 6), -1);
 }
 
-TEST(PropsEdit, FileChoicesUseTheirTitlesAndStoreThePathAsChosen) {
-    Sandbox box;
-    auto doc = box.newDocument();
+TEST_F(PropsEdit, FileChoicesUseTheirTitlesAndStoreThePathAsChosen) {
     const PropertyTarget t{3, 2};
     const QString pics = "*.jpg;*.bmp;*.png|*.jpg;*.bmp;*.png|*.*|*.*";
     const QString icoPics = "*.jpg;*.bmp;*.ico;*.png|*.jpg;*.bmp;*.ico;*.png|*.*|*.*";
@@ -233,9 +230,7 @@ TEST(PropsEdit, FileChoicesUseTheirTitlesAndStoreThePathAsChosen) {
     }
 }
 
-TEST(PropsEdit, BackColourStoresTheDialogAnswerEvenOnCancel) {
-    Sandbox box;
-    auto doc = box.newDocument();
+TEST_F(PropsEdit, BackColourStoresTheDialogAnswerEvenOnCancel) {
     ScriptedPrompter p;
     p.expectColor(0x000000FF).expectColor(0);
     EXPECT_EQ(ChooseAndStoreBackColor(p, *doc), 0x000000FF);
@@ -251,9 +246,7 @@ TEST(PropsEdit, BackColourStoresTheDialogAnswerEvenOnCancel) {
     EXPECT_PROMPTS_DONE(p);
 }
 
-TEST(PropsEdit, BoxTextsAndFontNameTrim) {
-    Sandbox box;
-    auto doc = box.newDocument();
+TEST_F(PropsEdit, BoxTextsAndFontNameTrim) {
     doc->Tabs[2].Name = "  Skills  ";
     doc->Texts[1].Text = "  two\r\nlines   ";
     doc->Texts[1].FontName = "  Arial ";
@@ -280,45 +273,42 @@ TEST(PropsSettings, LeadingNumberReadsTheFrontOfTheText) {
         EXPECT_DOUBLE_EQ(LeadingNumber(QString::fromLatin1(r.text)), r.value) << r.text;
 }
 
-TEST(PropsSettings, OkReadsEveryRowLiterally) {
+// A row of the list is read literally (its text, not a table); Custom reads the boxes.
+TEST(PropsSettings, OkReadsTheChosenRowOrTheCustomBoxes) {
     const QStringList rows = FrameSizeRows();
     ASSERT_EQ(rows.size(), 9);
-    const int expected[9][2] = {{600, 400}, {600, 450}, {640, 480},  {720, 480}, {720, 540},
-                                {800, 600}, {900, 600}, {1024, 768}, {0, 0}};
-    for (int row = 0; row < 9; ++row) {
-        ScriptHeader h;
-        SettingsForm f;
-        f.frameRow = row;
-        f.widthText = "1000"; // ignored without the custom box
-        ApplySettings(h, f);
-        EXPECT_EQ(h.FrameWidth, expected[row][0]) << rows[row].toStdString();
-        EXPECT_EQ(h.FrameHeight, expected[row][1]) << rows[row].toStdString();
-    }
     EXPECT_EQ(rows.last(), "Custom");
-}
-
-TEST(PropsSettings, OkReadsCustomBoxes) {
     const struct {
-        const char* w;
-        const char* h;
+        int row;
+        bool custom;
+        const char *w, *h;
         int32_t width, height;
-    } rows[] = {
-        {"1000", "700", 1000, 700},
-        {"abc", "", 0, 0},
-        {"640px", "48 0", 640, 480},
-        {"12.5", "13.5", 12, 14},
-        {"1e20", "-1e20", 2147483647, -2147483647 - 1},
+    } cases[] = {
+        {0, false, "1000", "", 600, 400}, // the boxes are ignored without the custom box
+        {1, false, "1000", "", 600, 450},
+        {2, false, "1000", "", 640, 480},
+        {3, false, "1000", "", 720, 480},
+        {4, false, "1000", "", 720, 540},
+        {5, false, "1000", "", 800, 600},
+        {6, false, "1000", "", 900, 600},
+        {7, false, "1000", "", 1024, 768},
+        {8, false, "1000", "", 0, 0},
+        {5, true, "1000", "700", 1000, 700},
+        {5, true, "abc", "", 0, 0},
+        {5, true, "640px", "48 0", 640, 480},
+        {5, true, "12.5", "13.5", 12, 14},
+        {5, true, "1e20", "-1e20", 2147483647, -2147483647 - 1},
     };
-    for (const auto& r : rows) {
+    for (const auto& c : cases) {
         ScriptHeader h;
         SettingsForm f;
-        f.custom = true;
-        f.frameRow = 5;
-        f.widthText = r.w;
-        f.heightText = r.h;
+        f.frameRow = c.row;
+        f.custom = c.custom;
+        f.widthText = c.w;
+        f.heightText = c.h;
         ApplySettings(h, f);
-        EXPECT_EQ(h.FrameWidth, r.width) << r.w;
-        EXPECT_EQ(h.FrameHeight, r.height) << r.h;
+        EXPECT_EQ(QSize(h.FrameWidth, h.FrameHeight), QSize(c.width, c.height))
+            << c.row << " " << c.w << " x " << c.h;
     }
 }
 
@@ -356,20 +346,6 @@ TEST(PropsSettings, OpeningFillsTheControls) {
         EXPECT_EQ(f.showSlide, r.asRun != 0);
         EXPECT_EQ(f.music, "/music/song.mp3");
     }
-}
-
-TEST(PropsSettings, OkWithoutChangesKeepsTheScales) {
-    ScriptHeader h;
-    h.FrameWidth = 800;
-    h.FrameHeight = 600;
-    h.MusicVolume = 500;
-    h.ShowSpeed = 30;
-    h.AutoRepeat = 1;
-    h.ShowAsRun = 0;
-    h.BackMusic = "song.mp3";
-    const ScriptHeader before = h;
-    ApplySettings(h, IniCBFrame(h));
-    EXPECT_EQ(h, before);
 }
 
 TEST(PropsFontChoice, StyleBitsToControlsAndBack) {

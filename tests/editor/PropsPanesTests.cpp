@@ -400,21 +400,6 @@ struct Opened {
 
 } // namespace
 
-TEST(FrmTextColor, ListsTheInstalledFamiliesInTheirOwnOrder) {
-    TextDoc d;
-    FrmTextColor dlg(*d.doc, 1);
-    auto* fonts = Find<QComboBox>(dlg, "CmbFont");
-    QStringList shown;
-    for (int i = 0; i < fonts->count(); ++i)
-        shown << fonts->itemText(i);
-    EXPECT_EQ(shown, QFontDatabase::families());
-    EXPECT_EQ(fonts->currentText(), DrawableFamily());
-    auto* colors = Find<QComboBox>(dlg, "CmbColor");
-    ASSERT_EQ(colors->count(), 146);
-    EXPECT_EQ(colors->itemText(22), "DarkBrown"); // the colour table's own order
-    EXPECT_EQ(Find<QComboBox>(dlg, "CmbSize")->count(), 18);
-}
-
 TEST(FrmTextColor, OpensOnTheTextsStyleSizeAndColour) {
     const struct {
         int32_t style, size;
@@ -450,11 +435,20 @@ TEST(FrmTextColor, OpensOnTheTextsStyleSizeAndColour) {
     }
 }
 
-TEST(FrmTextColor, PreviewBackgroundAndInk) {
+TEST(FrmTextColor, ListsTheInstalledFamiliesAndTheColoursAndPreviews) {
     TextDoc d;
     ASSERT_FALSE(DrawableFamily().isEmpty());
     FrmTextColor dlg(*d.doc, 1);
+    auto* fonts = Find<QComboBox>(dlg, "CmbFont");
+    QStringList shown;
+    for (int i = 0; i < fonts->count(); ++i)
+        shown << fonts->itemText(i);
+    EXPECT_EQ(shown, QFontDatabase::families()); // in their own order
+    EXPECT_EQ(fonts->currentText(), DrawableFamily());
+    EXPECT_EQ(Find<QComboBox>(dlg, "CmbSize")->count(), 18);
     auto* color = Find<QComboBox>(dlg, "CmbColor");
+    ASSERT_EQ(color->count(), 146);
+    EXPECT_EQ(color->itemText(22), "DarkBrown"); // the colour table's own order
     const struct {
         const char* name;
         QRgb background;

@@ -32,9 +32,9 @@ public:
     }
     void setObjectRows(const QStringList& r) override { rows = r; }
     void setCurrentRow(int r) override { currentRow = r; }
-    void showPropertyPane(int kind) override { pane = kind; }
+    void showPropertyPane(int) override {}
     void setPropertyCaption(const QString& c) override { caption = c; }
-    void loadObject(int kind, int index) override { loaded = {kind, index}; }
+    void loadObject(int, int) override {}
     void showObjectGeometry(int, const IntRect& r) override { boxes = r; }
     void showSelectionFrame(bool v) override { frameVisible = v; }
     void placeSelectionFrame(const IntRect& f, const std::array<QPointF, 8>&) override {
@@ -69,9 +69,7 @@ public:
     int paints = 0, paintedTab = -1, paintedHover = -1;
     QStringList rows;
     int currentRow = -1;
-    int pane = -1;
     QString caption;
-    std::pair<int, int> loaded{-1, -1};
     IntRect boxes, frame, workspace;
     bool frameVisible = false;
     std::optional<QString> inPlace;
