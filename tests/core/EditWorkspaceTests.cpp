@@ -86,7 +86,7 @@ TEST(EditMouse, DraggingMovesTheRecordLiveAndOnlyTheFrameMarksTheDocument) {
     }
 }
 
-TEST(EditMouse, RightButtonSelectsWithoutDragAndOpensTheEditMenu) {
+TEST(EditMouse, RightButtonSelectsWithoutDragAndOpensTheEditMenuAndARedrawKeepsTheSelection) {
     PageFixture f;
     f.editor.workspaceMouseDown(MouseButton::Right, {145, 145});
     EXPECT_EQ(f.editor.state().SelectedKind, KindText); // the text beats the image under it
@@ -100,14 +100,8 @@ TEST(EditMouse, RightButtonSelectsWithoutDragAndOpensTheEditMenu) {
     EXPECT_EQ(f.view.log, (QStringList{"edit menu", "edit menu"}));
     EXPECT_FALSE(f.doc->Dirty);
 
-    f.showTab(0);
-    f.view.log.clear();
-    f.editor.workspaceMouseUp(MouseButton::Right);
-    EXPECT_TRUE(f.view.log.isEmpty());
-}
 
-TEST(EditMouse, RedrawKeepsTheSelectedObjectButNotThePageRow) {
-    PageFixture f;
+    // A redraw keeps the selected object but not the page row.
     f.editor.workspaceMouseDown(MouseButton::Left, {110, 110});
     f.editor.RefreshTab(1);
     EXPECT_EQ(f.view.currentRow, 1);
@@ -118,6 +112,11 @@ TEST(EditMouse, RedrawKeepsTheSelectedObjectButNotThePageRow) {
     f.editor.RefreshTab(1);
     EXPECT_EQ(f.view.currentRow, -1);
     EXPECT_EQ(f.editor.state().SelectedKind, KindTab);
+
+    f.showTab(0);
+    f.view.log.clear();
+    f.editor.workspaceMouseUp(MouseButton::Right);
+    EXPECT_TRUE(f.view.log.isEmpty());
 }
 
 TEST(EditMouse, HandlesResizeTheSelectedObject) {

@@ -382,13 +382,6 @@ TEST(PropsFontChoice, SizesAndExactSearch) {
         EXPECT_EQ(ParseFontSize(p.text), p.size) << p.text;
 }
 
-TEST(PropsFontChoice, PreviewBackgroundIsWhiteOnlyBehindExactBlack) {
-    EXPECT_EQ(PreviewBackground(0xFF000000u), 0xFFFFFFFFu);
-    EXPECT_EQ(PreviewBackground(0x00FFFFFFu), 0xFF000000u);
-    EXPECT_EQ(PreviewBackground(0xFE000000u), 0xFF000000u);
-    EXPECT_EQ(PreviewBackground(0xFFFFFFFFu), 0xFF000000u);
-}
-
 TEST(PropsFontChoice, OpenFallBackAndOk) {
     TextElement t;
     t.FontName = "  No Such Family  ";
@@ -408,6 +401,10 @@ TEST(PropsFontChoice, OpenFallBackAndOk) {
     EXPECT_EQ(c.fontName, "Arial");
     FontChoice ok{"Serif", 20, 1, 0xFF000000u};
     EXPECT_EQ(PreviewFamily(ok, known), "Serif");
+    // The preview lies on white only behind exact opaque black.
+    for (const uint32_t c : {0x00FFFFFFu, 0xFE000000u, 0xFFFFFFFFu})
+        EXPECT_EQ(PreviewBackground(c), 0xFF000000u) << std::hex << c;
+    EXPECT_EQ(PreviewBackground(0xFF000000u), 0xFFFFFFFFu);
 
     ok.fontName = QString(40, 'F');
     EXPECT_TRUE(ApplyFontChoice(t, ok));

@@ -59,6 +59,12 @@ TEST_F(RenderCompositor, TabPictureAtItsStoredRectangle) {
     // Other pages do not show it.
     EXPECT_EQ(test::CountPixels(RenderPageImage(*doc, 3, res), White, QRect(0, 0, 800, 600)),
               800 * 600);
+
+    // A relative path follows the project's folder; without one it is not found.
+    pic.FileName = "tab.png";
+    EXPECT_EQ(RenderPageImage(*doc, 2, res).pixel(150, 100), White);
+    doc->ScriptPath = box.path("resume.qds");
+    EXPECT_EQ(RenderPageImage(*doc, 2, res).pixel(150, 100), qRgb(0, 0, 255));
 }
 
 TEST_F(RenderCompositor, SlotOrderThenTextsOverPictures) {
@@ -116,14 +122,6 @@ TEST_F(RenderCompositor, BadgeOnlyOnTheSlideShowPage) {
             }
         }
     }
-}
-
-TEST_F(RenderCompositor, RelativePathsFollowTheProject) {
-    test::Picture(box, "rel.png", 40, 40, qRgb(0, 128, 0));
-    test::PlaceImage(*doc, 1, 1, QRect(0, 0, 20, 20), "rel.png");
-    EXPECT_EQ(RenderPageImage(*doc, 1, res).pixel(5, 5), White); // no project folder yet
-    doc->ScriptPath = box.path("resume.qds");
-    EXPECT_EQ(RenderPageImage(*doc, 1, res).pixel(5, 5), qRgb(0, 128, 0));
 }
 
 TEST_F(RenderCompositor, OutputsAndWriteBack) {
@@ -492,13 +490,10 @@ TEST(RenderColor, SpotValuesInListOrderAndTheirLookUp) {
         uint32_t argb;
     } cases[] = {
         {0, "AliceBlue", 0xFFF0F8FFu},     {2, "Aqua", 0xFF00FFFFu},
-        {7, "Black", 0xFF000000u},         {20, "Cyan", 0xFF00FFFFu},
-        {22, "DarkBrown", 0xFF804040u},    {24, "DarkGoldenrod", 0xFFB8860Bu},
-        {43, "Firebrick", 0xFFB22222u},    {46, "Fuchsia", 0xFFFF00FFu},
-        {50, "Goldenrod", 0xFFDAA520u},    {80, "Magenta", 0xFFFF00FFu},
+        {20, "Cyan", 0xFF00FFFFu},         {22, "DarkBrown", 0xFF804040u},
+        {46, "Fuchsia", 0xFFFF00FFu},      {80, "Magenta", 0xFFFF00FFu},
         {114, "Red", 0xFFFF0000u},         {134, "Transparent", 0x00FFFFFFu},
         {138, "White", 0xFFFFFFFFu},       {140, "XPBlue", 0xFF003CC7u},
-        {141, "XPGradient", 0xFFC6C5D7u},  {142, "XPGoldDark", 0xFFB08218u},
         {143, "XPGoldLight", 0xFFFCF9C3u}, {145, "YellowGreen", 0xFF9ACD32u},
     };
     for (const auto& c : cases) {

@@ -65,7 +65,8 @@ QRect Ink(const QImage& img, QRgb background = Grey) {
 
 } // namespace
 
-TEST(RenderText, ShadowColourChoice) {
+TEST(RenderText, ShadowLiesOnePixelRightAndDownInBlackOrWhite) {
+    // White only behind exact opaque black.
     const struct {
         uint32_t text, shadow;
     } cases[] = {{0xFF000000u, 0xFFFFFFFFu}, {0xFFFF0000u, 0xFF000000u},
@@ -73,9 +74,6 @@ TEST(RenderText, ShadowColourChoice) {
                  {0x00FFFFFFu, 0xFF000000u}, {0xFFFFFFFFu, 0xFF000000u}};
     for (const auto& c : cases)
         EXPECT_EQ(ShadowColorFor(c.text), c.shadow) << std::hex << c.text;
-}
-
-TEST(RenderText, ShadowLiesOnePixelRightAndDown) {
     // Without antialiasing every pixel is either text or shadow, so the shadow's colour
     // can be found exactly where the glyphs are shifted to.
     for (const uint32_t color : {0xFF000000u, 0xFFFF0000u}) {

@@ -27,20 +27,6 @@ constexpr int FadeMs = 500;
 // Page 2, page 1 and the slide-show page, then the home page.
 constexpr int ShowSteps = 4;
 
-// One second of a 440 Hz tone as 16-bit mono PCM in a WAV file.
-QByteArray ToneWav() {
-    const int rate = 8000;
-    QByteArray pcm;
-    for (int i = 0; i < rate; ++i) {
-        const auto v = int16_t(8000 * std::sin(i * 2 * M_PI * 440 / rate));
-        pcm.append(char(v & 0xFF)).append(char((v >> 8) & 0xFF));
-    }
-    auto u32 = [](uint32_t v) { return QByteArray(reinterpret_cast<const char*>(&v), 4); };
-    auto u16 = [](uint16_t v) { return QByteArray(reinterpret_cast<const char*>(&v), 2); };
-    return "RIFF" + u32(36 + uint32_t(pcm.size())) + "WAVEfmt " + u32(16) + u16(1) + u16(1) +
-           u32(rate) + u32(rate * 2) + u16(2) + u16(16) + "data" + u32(uint32_t(pcm.size())) + pcm;
-}
-
 QString Project(test::Sandbox& box, const QString& music) {
     auto doc = box.newDocument();
     doc->Header.KeepOnTime = KeepMs;
@@ -58,7 +44,10 @@ QString Project(test::Sandbox& box, const QString& music) {
     const QString path = box.path("v.qds");
     EXPECT_TRUE(test::Solid(8, 8, qRgb(220, 30, 30)).save(box.path("red.png")));
     EXPECT_TRUE(test::Solid(8, 8, qRgb(30, 30, 220)).save(box.path("blue.png")));
-    EXPECT_TRUE(test::WriteAll(box.path("tone.wav"), ToneWav()));
+    // One second of a 440 Hz tone, as the ffmpeg program makes it.
+    EXPECT_EQ(test::RunProcess("ffmpeg", {"-v", "error", "-y", "-f", "lavfi", "-i",
+                                          "sine=frequency=440:duration=1", box.path("tone.wav")}),
+              0);
     EXPECT_TRUE(test::WriteAll(box.path("notes.txt"), "not sound at all"));
     EXPECT_TRUE(SaveScript(*doc, path));
     return path;

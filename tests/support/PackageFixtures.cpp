@@ -3,9 +3,7 @@
 #include "io/FileUtil.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImageWriter>
-#include <QtEndian>
 
 #include <algorithm>
 
@@ -22,11 +20,9 @@ QByteArray EncodeJpeg(const QImage& image, int quality) {
 }
 
 QByteArray PictureBytes(int width, int height, QRgb colour, const char* format) {
-    const QImage image = Solid(width, height, colour);
     QByteArray out;
     QBuffer buffer(&out);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
+    Solid(width, height, colour).save(&buffer, format);
     return out;
 }
 

@@ -20,42 +20,34 @@ ScriptedPrompter::Step Box(const QString& title, const QString& text, Prompter::
 
 ScriptedPrompter& ScriptedPrompter::expectQuestion(const QString& title, const QString& text,
                                                    Answer answer) {
-    steps_.append(Box(title, text, answer, Buttons::YesNo, Icon::Question));
-    return *this;
+    return add(Box(title, text, answer, Buttons::YesNo, Icon::Question));
 }
 
 ScriptedPrompter& ScriptedPrompter::expectYesNoCancel(const QString& title, const QString& text,
                                                       Answer answer) {
-    steps_.append(Box(title, text, answer, Buttons::YesNoCancel, Icon::Question));
-    return *this;
+    return add(Box(title, text, answer, Buttons::YesNoCancel, Icon::Question));
 }
 
 ScriptedPrompter& ScriptedPrompter::expectWarning(const QString& title, const QString& text) {
-    steps_.append(Box(title, text, Answer::Ok, Buttons::Ok, Icon::Exclamation));
-    return *this;
+    return add(Box(title, text, Answer::Ok, Buttons::Ok, Icon::Exclamation));
 }
 
 ScriptedPrompter& ScriptedPrompter::expectAsk(const QString& title, const QString& text,
                                               Answer answer) {
-    steps_.append({.title = title, .text = text, .answer = answer});
-    return *this;
+    return add({.title = title, .text = text, .answer = answer});
 }
 
 ScriptedPrompter& ScriptedPrompter::expectFile(bool save, const QString& title,
                                                const QString& filter, const QString& result) {
-    steps_.append(
-        {.kind = Step::File, .title = title, .text = filter, .path = result, .save = save});
-    return *this;
+    return add({.kind = Step::File, .title = title, .text = filter, .path = result, .save = save});
 }
 
 ScriptedPrompter& ScriptedPrompter::expectColor(uint32_t result) {
-    steps_.append({.kind = Step::Color, .color = result});
-    return *this;
+    return add({.kind = Step::Color, .color = result});
 }
 
 ScriptedPrompter& ScriptedPrompter::expectFolder(const QString& title, const QString& result) {
-    steps_.append({.kind = Step::Folder, .title = title, .path = result});
-    return *this;
+    return add({.kind = Step::Folder, .title = title, .path = result});
 }
 
 const ScriptedPrompter::Step* ScriptedPrompter::next(Step::Kind kind, const QString& what) {

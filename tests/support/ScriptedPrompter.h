@@ -59,6 +59,10 @@ public:
     const QStringList& log() const { return log_; }
 
 private:
+    ScriptedPrompter& add(Step step) {
+        steps_.append(std::move(step));
+        return *this;
+    }
     const Step* next(Step::Kind kind, const QString& what);
     QList<Step> steps_;
     qsizetype used_ = 0;
