@@ -1,6 +1,7 @@
 #include "TestSupport.h"
 #include "io/ScriptFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
@@ -97,6 +98,12 @@ TEST(Cli, ErrorsAndDamagedFiles) {
         {"no BMP", {"render", a, "1", box.path("o.bmp")}, 2, ""},
         {"no output", {"render", a, "1"}, 2, ""},
         {"unwritable picture", {"render", a, "1", box.path("no/dir/o.png")}, 1, ""},
+        {"no project to film", {"video", box.path("none.qds"), box.path("o.mp4")}, 1, ""},
+        {"a damaged project to film", {"video", box.path("cut.qds"), box.path("o.mp4")}, 1, ""},
+        {"unwritable video", {"video", a, box.path("no/dir/o.mp4")}, 1, ""},
+        {"no AVI", {"video", a, box.path("o.avi")}, 2, ""},
+        {"no film at 0 fps", {"video", a, box.path("o.mp4"), "--fps", "0"}, 2, ""},
+        {"not a height", {"video", a, box.path("o.mp4"), "--height", "tall"}, 2, ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -114,8 +121,10 @@ TEST(Cli, ErrorsAndDamagedFiles) {
     QByteArray out;
     ASSERT_EQ(RunCli({"info", box.path("cut.qds")}, &out), 0);
     EXPECT_EQ(field(parse(out), "Profile", "FirstName").toString(), "Quorvix");
-    EXPECT_FALSE(QFile::exists(box.path("o.qds")));
-    EXPECT_FALSE(QFile::exists(box.path("o.png")));
+    // A failed command leaves no file, not even a part of one.
+    for (const char* name : {"o.qds", "o.png", "o.mp4"})
+        EXPECT_FALSE(QFile::exists(box.path(name))) << name;
+    EXPECT_TRUE(QDir(box.dir.path()).entryList({"*.part"}, QDir::Hidden | QDir::Files).isEmpty());
 }
 
 TEST(Cli, PackNamesFieldsTheCodePageCannotHold) {

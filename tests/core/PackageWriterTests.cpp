@@ -320,12 +320,6 @@ TEST_F(GenerateResumeTest, CancelOrNoWritesNothingAndYesReplacesWithTheSameBytes
     }
 }
 
-} // namespace
-} // namespace zentor::test
-
-namespace zentor::test {
-namespace {
-
 // Runs one long job with a progress that records the pages and cancels at page `stopAt`
 // (never when 0); returns whether the job says it wrote its file.
 using Job = std::function<bool(const Sandbox&, const QString& path, const Progress&)>;
@@ -385,12 +379,6 @@ TEST(Progress, EveryLongRunCountsItsPagesAndACancelledOneLeavesNoFile) {
         }
     }
 }
-
-} // namespace
-} // namespace zentor::test
-
-namespace zentor::test {
-namespace {
 
 // A small résumé drawn by the test: a 640 x 480 frame, a tab picture, a picture and a
 // shadowed text on page 1, a user icon and a background of other proportions.

@@ -117,20 +117,6 @@ TEST_F(PropsEdit, KeepOnTimeKeepsTheOldValueOnANonNumber) {
     }
 }
 
-TEST_F(PropsEdit, LocationBoxesFallBackToTheRecordPerBox) {
-    const IntRect record{10, 20, 30, 40};
-    const struct {
-        std::array<QString, 4> boxes;
-        IntRect expected;
-    } rows[] = {
-        {{"1", "2", "3", "4"}, {1, 2, 3, 4}},
-        {{"x", "2", "", "4.5"}, {10, 2, 30, 4}},
-        {{" 7 ", "-5", "3.5", "abc"}, {7, -5, 4, 40}},
-    };
-    for (const auto& r : rows)
-        EXPECT_EQ(LocationFromBoxes(r.boxes, record), r.expected);
-}
-
 TEST_F(PropsEdit, CombosListTheirRowsAndStoreEachRowsValue) {
     const PropertyTarget t{4, 7};
     const struct {
@@ -246,7 +232,7 @@ TEST_F(PropsEdit, BackColourStoresTheDialogAnswerEvenOnCancel) {
     EXPECT_PROMPTS_DONE(p);
 }
 
-TEST_F(PropsEdit, BoxTextsAndFontNameTrim) {
+TEST_F(PropsEdit, BoxTextsFontNameAndPositionBoxesAsRead) {
     doc->Tabs[2].Name = "  Skills  ";
     doc->Texts[1].Text = "  two\r\nlines   ";
     doc->Texts[1].FontName = "  Arial ";
@@ -258,6 +244,19 @@ TEST_F(PropsEdit, BoxTextsAndFontNameTrim) {
     EXPECT_EQ(PropertyBoxText(*doc, t, PropertyText::Phone), ""); // never assigned: NULs
     EXPECT_EQ(TrimStoredFontName(*doc, t), "Arial");
     EXPECT_EQ(Bytes(doc->Texts[1].FontName), Padded("Arial", 31));
+
+    // The position boxes fall back to the record one box at a time.
+    const IntRect record{10, 20, 30, 40};
+    const struct {
+        std::array<QString, 4> boxes;
+        IntRect expected;
+    } rows[] = {
+        {{"1", "2", "3", "4"}, {1, 2, 3, 4}},
+        {{"x", "2", "", "4.5"}, {10, 2, 30, 4}},
+        {{" 7 ", "-5", "3.5", "abc"}, {7, -5, 4, 40}},
+    };
+    for (const auto& r : rows)
+        EXPECT_EQ(LocationFromBoxes(r.boxes, record), r.expected);
 }
 
 TEST(PropsSettings, LeadingNumberReadsTheFrontOfTheText) {

@@ -45,6 +45,32 @@ struct RenderCompositor : ::testing::Test {
     }
 };
 
+QImage Solid(QSize size, QRgb color) {
+    return test::Solid(size.width(), size.height(), color);
+}
+
+// Distinct colours for the built-in pictures: slot i is (i * 20, 100, 200 - i * 10).
+QRgb ResColor(int slot) {
+    return qRgb(slot * 20, 100, 200 - slot * 10);
+}
+
+struct RenderWorkspace : ::testing::Test {
+    test::Sandbox box;
+    ProcessContext ctx;
+    std::unique_ptr<Document> doc;
+    ResImages res;
+    RenderWorkspace() {
+        // A program folder of our own, with a default background beside it.
+        QDir(box.dir.path()).mkpath("app/Res");
+        Solid({64, 48}, qRgb(0, 90, 0)).save(box.path("app/Res/bakpic.jpg"), "JPEG", 100);
+        ctx = ProcessContext::create(box.path("app"), box.path("tmp"));
+        doc = std::make_unique<Document>();
+        NewDocument(*doc, ctx);
+        for (int slot = 1; slot <= ResHired; ++slot)
+            res.setImage(slot, Solid({16, 16}, ResColor(slot)));
+    }
+};
+
 } // namespace
 
 TEST_F(RenderCompositor, TabPictureAtItsStoredRectangle) {
@@ -220,36 +246,6 @@ TEST_F(RenderCompositor, ExtremeGeometryFromADamagedFileIsSurvived) {
     EXPECT_EQ(page.pixel(400, 300), White);
 }
 
-namespace {
-
-QImage Solid(QSize size, QRgb color) {
-    return test::Solid(size.width(), size.height(), color);
-}
-
-// Distinct colours for the built-in pictures: slot i is (i * 20, 100, 200 - i * 10).
-QRgb ResColor(int slot) {
-    return qRgb(slot * 20, 100, 200 - slot * 10);
-}
-
-struct RenderWorkspace : ::testing::Test {
-    test::Sandbox box;
-    ProcessContext ctx;
-    std::unique_ptr<Document> doc;
-    ResImages res;
-    RenderWorkspace() {
-        // A program folder of our own, with a default background beside it.
-        QDir(box.dir.path()).mkpath("app/Res");
-        Solid({64, 48}, qRgb(0, 90, 0)).save(box.path("app/Res/bakpic.jpg"), "JPEG", 100);
-        ctx = ProcessContext::create(box.path("app"), box.path("tmp"));
-        doc = std::make_unique<Document>();
-        NewDocument(*doc, ctx);
-        for (int slot = 1; slot <= ResHired; ++slot)
-            res.setImage(slot, Solid({16, 16}, ResColor(slot)));
-    }
-};
-
-} // namespace
-
 TEST_F(RenderWorkspace, ContentTabLaysOutItsPictureAndMarksObjects) {
     ImageElement& pic = doc->Tabs[5].Picture;
     pic.FileName = QStringLiteral(" ") + test::Picture(box, "tab.png", 400, 300, qRgb(0, 0, 255));
@@ -285,17 +281,6 @@ TEST_F(RenderWorkspace, ContentTabLaysOutItsPictureAndMarksObjects) {
     ResImages plain = res;
     plain.setImage(ResHired, QImage());
     EXPECT_EQ(ws, RenderPageImage(*doc, 5, plain));
-}
-
-TEST_F(RenderWorkspace, SlideShowTabShowsTheBackground) {
-    doc->Header.BackPicture = test::Picture(box, "back.png", 80, 60, qRgb(200, 100, 0));
-    EXPECT_EQ(PaintWorkspace(*doc, 8, 0, res, ctx).pixel(799, 599), qRgb(200, 100, 0));
-    // Empty: the default picture beside the program.
-    doc->Header.BackPicture.clearToNul();
-    const QImage ws = PaintWorkspace(*doc, 8, 0, res, ctx);
-    EXPECT_TRUE(test::Near(ws.pixel(400, 300), qRgb(0, 90, 0), 8));
-    EXPECT_TRUE(test::Near(ws.pixel(0, 0), qRgb(0, 90, 0), 8));
-    EXPECT_EQ(doc->Header.BackPicture.raw(), QString(256, QLatin1Char(' ')));
 }
 
 TEST_F(RenderWorkspace, ProfilePageRingCaptionAndIcons) {
@@ -334,7 +319,16 @@ TEST_F(RenderWorkspace, ProfilePageRingCaptionAndIcons) {
     EXPECT_EQ(PaintWorkspace(*doc, 0, 0, res, ctx).pixel(400, 300), qRgb(10, 20, 30));
 }
 
-TEST_F(RenderWorkspace, ProfileWriteBacks) {
+TEST_F(RenderWorkspace, SlideShowBackgroundAndProfileWriteBacks) {
+    doc->Header.BackPicture = test::Picture(box, "back.png", 80, 60, qRgb(200, 100, 0));
+    EXPECT_EQ(PaintWorkspace(*doc, 8, 0, res, ctx).pixel(799, 599), qRgb(200, 100, 0));
+    // Empty: the default picture beside the program.
+    doc->Header.BackPicture.clearToNul();
+    const QImage ws = PaintWorkspace(*doc, 8, 0, res, ctx);
+    EXPECT_TRUE(test::Near(ws.pixel(400, 300), qRgb(0, 90, 0), 8));
+    EXPECT_TRUE(test::Near(ws.pixel(0, 0), qRgb(0, 90, 0), 8));
+    EXPECT_EQ(doc->Header.BackPicture.raw(), QString(256, QLatin1Char(' ')));
+
     doc->Profile.FirstName = "  Ada";
     doc->Tabs[2].Name = "  Awards";
     PaintWorkspace(*doc, 0, 2, res, ctx);
@@ -516,8 +510,6 @@ TEST(RenderColor, SpotValuesInListOrderAndTheirLookUp) {
     EXPECT_EQ(QSet<QString>(names.begin(), names.end()).size(), GDIColorCount);
 }
 
-namespace {
-
 // Both players show a package at this size, so a damaged header must give the same answer.
 TEST(ShowFrameTest, HeaderFrameOrTheDefault) {
     const struct {
@@ -537,5 +529,3 @@ TEST(ShowFrameTest, HeaderFrameOrTheDefault) {
         EXPECT_EQ(f.Height, c.expectHeight) << c.width << " x " << c.height;
     }
 }
-
-} // namespace

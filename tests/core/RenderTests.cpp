@@ -63,6 +63,26 @@ QRect Ink(const QImage& img, QRgb background = Grey) {
     return r;
 }
 
+// Every pixel within `tol` of `color`.
+bool AllNear(const QImage& img, QRgb color, int tol = 6) {
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x)
+            if (!test::Near(img.pixel(x, y), color, tol))
+                return false;
+    return true;
+}
+
+// The CRC of PNG chunks, so that a doctored header is still a well-formed one.
+quint32 Crc32(const QByteArray& data) {
+    quint32 crc = 0xFFFFFFFFu;
+    for (char ch : data) {
+        crc ^= quint8(ch);
+        for (int k = 0; k < 8; ++k)
+            crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
+    }
+    return ~crc;
+}
+
 } // namespace
 
 TEST(RenderText, ShadowLiesOnePixelRightAndDownInBlackOrWhite) {
@@ -257,26 +277,7 @@ TEST(RenderText, LinePitchIsTheFontsLineSpacing) {
     }
 }
 
-TEST(RenderText, WrapPointAtAFractionalSize) {
-    // At 11 pt (14.67 px) "The quick brown fox" is 18327/2048 em wide, 131.25 px, and a line
-    // keeps a sixth of an em free at each end: it fits a box of 136.14 px. At a rounded 15 px
-    // it would need 139.2 px.
-    const QString sentence = "The quick brown fox jumps over the lazy dog";
-    const struct {
-        double width;
-        int firstLine; // characters, the blank after the last word included
-    } cases[] = {{135, 16}, {136.5, 20}, {139, 20}, {170, 20}};
-    for (const auto& c : cases) {
-        const TextBoxLayout box =
-            LayoutTextBox(sentence, 10, 10, c.width, 200, "Arial", 11, 0, 0, 0);
-        ASSERT_FALSE(box.lines.empty());
-        EXPECT_EQ(box.lines[0].start, 0);
-        EXPECT_EQ(box.lines[0].length, c.firstLine) << c.width;
-        EXPECT_FALSE(box.wordTooWide);
-    }
-}
-
-TEST(RenderText, LayoutTellsWhatFits) {
+TEST(RenderText, LayoutTellsWhatFitsAndWrapsAtTheFractionalSize) {
     const QString font = "Arial"; // 11 pt: lines 16.87 px apart
     const struct {
         QString text;
@@ -309,31 +310,18 @@ TEST(RenderText, LayoutTellsWhatFits) {
         EXPECT_EQ(breaks.lines[i].length, ranges[i][1]) << i;
     }
     EXPECT_TRUE(LayoutTextBox("x", 0, 0, 100, 100, "No Such Zq", 11, 0, 0, 0).lines.empty());
-}
 
-namespace {
-
-// Every pixel within `tol` of `color`.
-bool AllNear(const QImage& img, QRgb color, int tol = 6) {
-    for (int y = 0; y < img.height(); ++y)
-        for (int x = 0; x < img.width(); ++x)
-            if (!test::Near(img.pixel(x, y), color, tol))
-                return false;
-    return true;
-}
-
-// The CRC of PNG chunks, so that a doctored header is still a well-formed one.
-quint32 Crc32(const QByteArray& data) {
-    quint32 crc = 0xFFFFFFFFu;
-    for (char ch : data) {
-        crc ^= quint8(ch);
-        for (int k = 0; k < 8; ++k)
-            crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
+    // At 11 pt (14.67 px) "The quick brown fox" is 18327/2048 em wide, 131.25 px, and a line
+    // keeps a sixth of an em free at each end: it fits a box of 136.14 px. At a rounded 15 px
+    // it would need 139.2 px. The first line's length counts the blank after its last word.
+    const QString sentence = "The quick brown fox jumps over the lazy dog";
+    for (const auto& [width, firstLine] : {std::pair(135.0, 16), {136.5, 20}, {139.0, 20}}) {
+        const TextBoxLayout box = LayoutTextBox(sentence, 10, 10, width, 200, font, 11, 0, 0, 0);
+        ASSERT_FALSE(box.lines.empty());
+        EXPECT_EQ(box.lines[0].start, 0);
+        EXPECT_EQ(box.lines[0].length, firstLine) << width;
     }
-    return ~crc;
 }
-
-} // namespace
 
 TEST(RenderPicture, SaveImageAsByEnding) {
     test::Sandbox box;

@@ -18,6 +18,7 @@
 #include <cmath>
 
 using namespace zentor;
+using namespace zentor::test;
 
 namespace {
 
@@ -148,34 +149,6 @@ TEST(VideoCli, FramesAreThePlayersFrames) {
     }
 }
 
-TEST(VideoCli, FailuresLeaveNoFile) {
-    test::Sandbox box;
-    const QString project = Project(box, "");
-    QByteArray bytes = test::ReadAll(project);
-    ASSERT_TRUE(test::WriteAll(box.path("cut.qds"), bytes.left(bytes.size() / 3)));
-    const QString out = box.path("o.mp4");
-    const struct {
-        QStringList args;
-        int status;
-    } cases[] = {
-        {{box.path("none.qds"), out}, 1},
-        {{box.path("cut.qds"), out}, 1},
-        {{project, box.path("no/such/folder/o.mp4")}, 1},
-        {{project, box.path("o.avi")}, 2},
-        {{project, out, "--fps", "0"}, 2},
-        {{project, out, "--height", "tall"}, 2},
-    };
-    for (const auto& c : cases) {
-        QByteArray err;
-        EXPECT_EQ(test::RunCli(QStringList{"video"} + c.args, nullptr, &err), c.status)
-            << qPrintable(c.args.join(' '));
-        EXPECT_FALSE(err.isEmpty());
-        EXPECT_FALSE(QFile::exists(out));
-    }
-    QDir dir(box.dir.path());
-    EXPECT_TRUE(dir.entryList({"*.part"}, QDir::Hidden | QDir::Files).isEmpty());
-}
-
 TEST(VideoAudio, SoundtrackLoopsOrStopsAndFadesOut) {
     StereoTrack music;
     music.left.assign(VideoSampleRate, 1.0f);
@@ -206,8 +179,6 @@ TEST(VideoExport, SizeKeepsAspectAndEvenSides) {
     EXPECT_EQ(VideoSize({1000, 700}, 101), QSize(144, 100));
 }
 
-namespace zentor::test {
-
 // The window's own run (tests/editor) covers a plain export; here what it may be told.
 TEST(ExportVideo, RunsTheEditorsExportPathFromDialogToFile) {
     const ResImages res = ResImages::load();
@@ -235,5 +206,3 @@ TEST(ExportVideo, RunsTheEditorsExportPathFromDialogToFile) {
         EXPECT_TRUE(told.isEmpty() || told[0].startsWith("Export Video | "));
     }
 }
-
-} // namespace zentor::test

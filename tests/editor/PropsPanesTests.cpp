@@ -106,18 +106,40 @@ void Choose(QComboBox* c, int row) {
     emit c->activated(row);
 }
 
+// A family the text painter accepts, so that previews draw something.
+QString DrawableFamily() {
+    for (const QString& f : QFontDatabase::families())
+        if (FontFamilyAvailable(f))
+            return f;
+    return QString();
+}
+
+// Pixels of the preview that are neither the background nor near it.
+int InkPixels(const QImage& img) {
+    return img.width() * img.height() - CountPixels(img, img.pixel(0, 0));
+}
+
+struct TextDoc {
+    Sandbox box;
+    std::unique_ptr<Document> doc = box.newDocument();
+    TextElement& t = PlaceText(*doc, 1, 1);
+    TextDoc() {
+        t.FontName = DrawableFamily();
+        t.FontSize = 24;
+        t.FontStyle = 0;
+        t.FontColor = int32_t(0xFFFF0000u);
+    }
+};
+
+struct Opened {
+    Sandbox box;
+    std::unique_ptr<Document> doc = box.newDocument();
+    ScriptedPrompter prompter;
+};
+
 } // namespace
 
-TEST_F(PropsPanes, EveryPaneHasItsNamedControls) {
-    // The controls no other test here reaches.
-    const std::pair<int, const char*> names[] = {
-        {1, "CmdImgFile"}, {1, "TxtImgHeight"},  {2, "CombTextHint"},  {2, "TxtFontLeft"},
-        {2, "TxtFontTop"}, {2, "TxtFontWidth"},  {2, "TxtFontHeight"}, {3, "TxtLastName"},
-        {3, "TxtEmail"},   {3, "TxtWebsite"},    {3, "TxtAddress"},    {3, "TxtPostCode"},
-        {4, "TxtBakPic"},  {4, "CmbAutoRepeat"}, {4, "CmbShowAsRun"},
-    };
-    for (const auto& [pane, name] : names)
-        control(pane, name);
+TEST_F(PropsPanes, ListsAndIconHaveTheirRowsAndSize) {
     EXPECT_EQ(control<QComboBox>(4, "CmbMusicVol")->count(), 11);
     EXPECT_EQ(control<QComboBox>(2, "CombAlign0")->itemText(1), "1 - Center ");
     EXPECT_EQ(control<QLabel>(0, "PicTabIcon")->size(), QSize(128, 128));
@@ -285,7 +307,7 @@ TEST_F(PropsPanes, FileAndColourChoicesStoreShowAndRedrawAsListed) {
               QColor(255, 0, 0));
 }
 
-TEST_F(PropsPanes, DoubleClickCommandsRunTheSameChoices) {
+TEST_F(PropsPanes, DoubleClickRunsTheFileChoiceAndALateCommitWritesThePanesObject) {
     showTab(2);
     editor->chooseRow(1);
     prompter.expectFile(false, "Choose image file", "*.jpg;*.bmp;*.png|*.jpg;*.bmp;*.png|*.*|*.*",
@@ -293,11 +315,8 @@ TEST_F(PropsPanes, DoubleClickCommandsRunTheSameChoices) {
     editor->frameDoubleClick();
     EXPECT_EQ(doc->Images[1].FileName.trimNull(), "/img/new.png");
     EXPECT_EQ(control<QLineEdit>(1, "TxtImgFile")->text(), "/img/new.png");
-}
 
-TEST_F(PropsPanes, ALateCommitWritesTheObjectThePaneWasFilledFor) {
-    showTab(2);
-    editor->chooseRow(1);
+    // A late commit writes the object the pane was filled for.
     auto* name = control<QLineEdit>(1, "TxtImgName");
     type(name, "Portrait");
     // The selection moves on without the box being left (as a workspace click can do).
@@ -330,41 +349,6 @@ TEST_F(PropsPanes, BoxesSayWhichCharactersTheCodePageLoses) {
     }
     CodePage::overrideActive(nullptr);
 }
-
-namespace {
-
-// A family the text painter accepts, so that previews draw something.
-QString DrawableFamily() {
-    for (const QString& f : QFontDatabase::families())
-        if (FontFamilyAvailable(f))
-            return f;
-    return QString();
-}
-
-// Pixels of the preview that are neither the background nor near it.
-int InkPixels(const QImage& img) {
-    return img.width() * img.height() - CountPixels(img, img.pixel(0, 0));
-}
-
-struct TextDoc {
-    Sandbox box;
-    std::unique_ptr<Document> doc = box.newDocument();
-    TextElement& t = PlaceText(*doc, 1, 1);
-    TextDoc() {
-        t.FontName = DrawableFamily();
-        t.FontSize = 24;
-        t.FontStyle = 0;
-        t.FontColor = int32_t(0xFFFF0000u);
-    }
-};
-
-struct Opened {
-    Sandbox box;
-    std::unique_ptr<Document> doc = box.newDocument();
-    ScriptedPrompter prompter;
-};
-
-} // namespace
 
 TEST(FrmTextColor, OpensOnTheTextsStyleSizeAndColour) {
     const struct {
