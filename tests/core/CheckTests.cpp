@@ -181,7 +181,7 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
         << findings[0].message.toStdString();
 }
 
-TEST(Check, TellsWhichWordAndWhereWithSuggestionsInTheDictionarysOrder) {
+TEST(Check, TellsWhichWordWhereAndSuggestionsAndTakesPersonalWords) {
     Sandbox box;
     auto doc = CleanDocument(box);
     doc->Texts[3].Text = "Team leader, recieved teh award.";
@@ -207,24 +207,20 @@ TEST(Check, TellsWhichWordAndWhereWithSuggestionsInTheDictionarysOrder) {
         EXPECT_TRUE(s.mid(0, 3).contains(QLatin1String(c.right)))
             << c.wrong << ": " << s.join(QLatin1Char(' ')).toStdString();
     }
-}
 
-TEST(Check, PersonalWordsAreAcceptedAndAMissingDictionaryIsNamed) {
-    Sandbox box;
-    auto doc = CleanDocument(box);
+    // Personal words are accepted; a missing dictionary is named and the rest still checked.
+    doc = CleanDocument(box);
     doc->Texts[1].Text = "Built Zentorix pipelines.";
-    CheckOptions options;
-    options.language = "en_US";
-    EXPECT_EQ(KindsAndTabs(CheckDocument(*doc, options)), (Seen{{FindingKind::Spelling, 1}}));
-    options.personalWords = {"zentorix"};
-    EXPECT_TRUE(CheckDocument(*doc, options).empty());
-
-    options.language = "xx_YY";
+    CheckOptions byName;
+    byName.language = "en_US";
+    EXPECT_EQ(KindsAndTabs(CheckDocument(*doc, byName)), (Seen{{FindingKind::Spelling, 1}}));
+    byName.personalWords = {"zentorix"};
+    EXPECT_TRUE(CheckDocument(*doc, byName).empty());
+    byName.language = "xx_YY";
     doc->Texts[2].TabNo = 0;
-    const auto findings = CheckDocument(*doc, options);
-    // The other kinds are still checked.
-    EXPECT_EQ(KindsAndTabs(findings), (Seen{{FindingKind::Spelling, -1}, {FindingKind::Empty, 2}}));
-    EXPECT_TRUE(findings[0].message.contains(QLatin1String("xx_YY")));
+    const auto missing = CheckDocument(*doc, byName);
+    EXPECT_EQ(KindsAndTabs(missing), (Seen{{FindingKind::Spelling, -1}, {FindingKind::Empty, 2}}));
+    EXPECT_TRUE(missing[0].message.contains(QLatin1String("xx_YY")));
 }
 
 TEST(Check, SpellableWordsLeaveAddressesAndNumbersOut) {

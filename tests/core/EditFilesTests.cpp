@@ -281,7 +281,7 @@ struct MediaProject : EditorFixture {
     }
 };
 
-TEST(SaveAs, CollectedMediaStillResolvesFromAnotherFolderAndThroughUndo) {
+TEST(SaveAs, CollectedMediaStillResolvesFromAnotherFolderAndThroughUndoOrARefusal) {
     MediaProject f;
     const QStringList collected = f.collectIntoOld();
     ASSERT_GE(collected.size(), 3);
@@ -315,19 +315,17 @@ TEST(SaveAs, CollectedMediaStillResolvesFromAnotherFolderAndThroughUndo) {
     EXPECT_TRUE(MissingMedia(*f.doc).isEmpty());
     EXPECT_FALSE(f.doc->Dirty); // back at the saved state, not an edit
     EXPECT_EQ(f.editor.undoStack().undoName(), "Insert text 1");
-}
 
-TEST(SaveAs, ARefusedSaveLeavesPathsAndProjectAsTheyWere) {
-    MediaProject f;
-    const QStringList collected = f.collectIntoOld();
+    // A refused save leaves the paths and the project as they were.
+    const QStringList stored = f.storedPaths();
     const QString nowhere = f.box.path("missing/folder/cv.qds");
     f.prompter.expectFile(true, "Save as QDV Script File", ScriptFilter, nowhere);
     f.prompter.expectWarning("Save QDV Script File",
                              QStringLiteral("Can't save file : ") + nowhere);
     f.editor.menuCommand(CmdSaveAs);
     EXPECT_PROMPTS_DONE(f.prompter);
-    EXPECT_EQ(f.storedPaths(), collected);
-    EXPECT_EQ(f.doc->ScriptPath, f.box.path("old/cv.qds"));
+    EXPECT_EQ(f.storedPaths(), stored);
+    EXPECT_EQ(f.doc->ScriptPath, moved);
     EXPECT_TRUE(MissingMedia(*f.doc).isEmpty());
 }
 

@@ -192,12 +192,15 @@ TEST(EditGeometry, MoveAddClampsInItsOwnOrder) {
     }
 }
 
-TEST(EditGeometry, HandlesSitInsideTheFrameWithUnroundedHalves) {
+TEST(EditGeometry, HandlesSitInsideTheFrameAndNoStripMapsThePage) {
     const auto h = HandlePositions({10, 20, 30, 41});
     const QPointF expected[8] = {{10, 20},   {10, 37}, {10, 54}, {21.5, 20},
                                  {21.5, 54}, {33, 20}, {33, 37}, {33, 54}};
     for (int k = 0; k < 8; ++k)
         EXPECT_EQ(h[k], expected[k]) << "handle " << k;
+    // With no strip selected the old page is mapped as a position.
+    EXPECT_EQ(GetSelectedIndex(0, 3), 6);
+    EXPECT_EQ(GetSelectedIndex(2, 3), 7);
 }
 
 TEST(EditGeometry, ResizeByHandleKeepsTheOppositeEdge) {
@@ -253,11 +256,6 @@ TEST(EditGeometry, HoverUsesTheDrawnRingAndExcludesEdges) {
                  {400, 300, 0}, {400, 550, 3}, {150, 300, 5}, {400, 50, 7}};
     for (const auto& c : cases)
         EXPECT_EQ(HoverIconAt(r, c.x, c.y), c.icon) << c.x << "," << c.y;
-}
-
-TEST(EditGeometry, NoSelectedStripMapsTheOldPageAsAPosition) {
-    EXPECT_EQ(GetSelectedIndex(0, 3), 6);
-    EXPECT_EQ(GetSelectedIndex(2, 3), 7);
 }
 
 TEST(EditGeometry, ScrollBarsFollowTheWorkspace) {

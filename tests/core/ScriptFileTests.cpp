@@ -398,11 +398,3 @@ TEST(RecordLayout, TextBytes) {
     DecodeText(expected, back);
     EXPECT_EQ(back, t);
 }
-
-TEST(RecordLayout, NeverAssignedStringsAreZeroBytes) {
-    TextElement t; // nothing assigned
-    const QByteArray bytes = EncodeText(t);
-    EXPECT_EQ(bytes, QByteArray(4216, '\0'));
-    t.Name = QString(); // assigned empty: all blanks
-    EXPECT_EQ(EncodeText(t).mid(4, 32), QByteArray(32, ' '));
-}

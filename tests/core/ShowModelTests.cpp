@@ -216,17 +216,8 @@ TEST(ShowModelTest, FlatPicturesAreEmptyPages) {
     EXPECT_FALSE(IsFlatPicture(nullptr, 3, 2, 4));
 }
 
-TEST(ShowModelTest, EscapeOnHomeQuitsAndMTogglesMute) {
-    ShowModel m(ShowSettingsOf(header(20, 0, 7000)), 0);
-    EXPECT_EQ(m.key(ShowKey::M, 10), ShowReaction::Redraw);
-    EXPECT_TRUE(m.muted());
-    m.key(ShowKey::M, 20);
-    EXPECT_FALSE(m.muted());
-    EXPECT_EQ(m.key(ShowKey::Escape, 30), ShowReaction::Quit);
-}
-
 // A change fades from what was on screen at that moment, and asks for frames while it does.
-TEST(ShowModelTest, ChangesFadeFromWhatWasShown) {
+TEST(ShowModelTest, ChangesFadeFromWhatWasShownMTogglesMuteAndEscapeQuits) {
     ShowModel m(ShowSettingsOf(header(40, 0, 7000)), 0);
     EXPECT_EQ(m.nextChangeMs(5), -1);
     m.clickIcon(3, 100);
@@ -236,6 +227,14 @@ TEST(ShowModelTest, ChangesFadeFromWhatWasShown) {
     m.key(ShowKey::F5, 2000);
     EXPECT_EQ(m.at(2000), (ScreenState{17, 13, 0.0}));
     EXPECT_EQ(m.nextChangeMs(3500), 2000 + 7000);
+
+    // M toggles the music; Escape on the home page quits.
+    ShowModel home(ShowSettingsOf(header(20, 0, 7000)), 0);
+    EXPECT_EQ(home.key(ShowKey::M, 10), ShowReaction::Redraw);
+    EXPECT_TRUE(home.muted());
+    home.key(ShowKey::M, 20);
+    EXPECT_FALSE(home.muted());
+    EXPECT_EQ(home.key(ShowKey::Escape, 30), ShowReaction::Quit);
 }
 
 // The home page takes the pointer only once it has faded in, and never during the show.

@@ -46,11 +46,7 @@ protected:
 
     void SetUp() override {
         // One picture and one text on page 2, as an inserted object leaves them.
-        ImageElement& img = doc->Images[1];
-        img.TabNo = 2;
-        img.Name = "Photo";
-        img.FileName = "photo.jpg";
-        img.Left = 10, img.Top = 20, img.Width = 100, img.Height = 80;
+        PlaceImage(*doc, 1, 2, {10, 20, 100, 80}, "photo.jpg").Name = "Photo";
         PlaceText(*doc, 1, 2, {30, 40, 200, 50}, "Hello").Name = "Intro";
 
         auto* layout = new QVBoxLayout(&window);
