@@ -52,7 +52,6 @@ TEST(EditCommands, StartUpOpensTheCommandLineProject) {
         EXPECT_EQ(f.view.workspace, c.workspace);
         EXPECT_FALSE(f.doc->Dirty);
         EXPECT_EQ(QFile::exists(c.commandLine), c.firstName == "Lumen"); // nothing created
-        EXPECT_PROMPTS_DONE(f.prompter);
     }
 }
 
@@ -101,7 +100,6 @@ TEST(EditCommands, NewAndOpenAskOnlyForAChangedDocumentAndNeverDropUnsavedWork) 
         EXPECT_EQ(f.doc->Dirty, c.goesOn ? false : c.dirty);
         EXPECT_EQ(f.doc->ScriptPath,
                   c.save == Written ? (kept && !replaced ? good : QString()) : QString());
-        EXPECT_PROMPTS_DONE(f.prompter);
     }
 }
 
@@ -143,7 +141,6 @@ TEST(EditCommands, SaveAddsTheExtensionAndAsksBeforeOverwriting) {
         EXPECT_EQ(f.view.windowPointer, Pointer::Normal) << c.what;
         // A refused overwrite stops the command before its ending steps.
         EXPECT_EQ(f.view.status, c.exists && !c.saved ? "" : "Ready") << c.what;
-        EXPECT_PROMPTS_DONE(f.prompter);
     }
 }
 
@@ -162,7 +159,6 @@ TEST(EditCommands, SaveToTheKnownPathAsksNothingAndAFailedSaveSaysSo) {
     f.editor.CommonModth(CmdSaveAs);
     EXPECT_TRUE(f.doc->Dirty);
     EXPECT_EQ(f.doc->ScriptPath, f.box.path("cv.qds"));
-    EXPECT_PROMPTS_DONE(f.prompter);
 }
 
 TEST(EditCommands, InsertOnlyOnContentPagesAndSelectsTheNewObject) {
@@ -214,7 +210,6 @@ TEST(EditCommands, DeleteAndZOrderMarkTheDocumentEvenWithNothingSelected) {
     EXPECT_EQ(f.doc->Texts[2].TabNo, 0);
     EXPECT_EQ(f.view.rows.size(), 2);
     EXPECT_EQ(f.view.currentRow, 0);
-    EXPECT_PROMPTS_DONE(f.prompter);
 }
 
 TEST(EditCommands, PreviousAndNextWrapAround) {

@@ -75,7 +75,6 @@ TEST(EditMedia, OpeningAProjectWithMovedMediaAsksOnceAndLooksInAFolder) {
             f.prompter.expectFolder("Find Missing Media",
                                     *c.folder ? f.box.path(c.folder) : QString());
         f.editor.CommonModth(CmdOpen);
-        EXPECT_PROMPTS_DONE(f.prompter);
         EXPECT_EQ(f.doc->Dirty, c.repointed) << c.what;
         EXPECT_EQ(f.view.status.toStdString(), c.status) << c.what;
         const QString dir = c.repointed ? "found/" : "gone/";
@@ -126,7 +125,6 @@ TEST(EditMedia, CollectMediaCopiesBesideTheProjectAndPointsThere) {
                              "These files could not be copied and stay where they were:\n" +
                                  QDir::toNativeSeparators(f.box.path("gone/b.png")));
     f.editor.CommonModth(CmdCollectMedia);
-    EXPECT_PROMPTS_DONE(f.prompter);
     EXPECT_TRUE(f.doc->Dirty);
     // The default background beside the program is one of the files the project uses.
     EXPECT_EQ(f.view.status, "Collected 5 files into " + QDir::toNativeSeparators(media));
@@ -151,7 +149,6 @@ TEST(EditMedia, CollectMediaCopiesBesideTheProjectAndPointsThere) {
     EditorFixture unsaved;
     unsaved.prompter.expectFile(true, "Save QDV Script File", ScriptFilter, "");
     unsaved.editor.CommonModth(CmdCollectMedia);
-    EXPECT_PROMPTS_DONE(unsaved.prompter);
     EXPECT_EQ(unsaved.doc->Header.BackPicture.trimNull(), unsaved.box.ctx.defaultBackPicture());
 }
 
@@ -195,7 +192,6 @@ TEST(EditMedia, WrittenFilesAndPlayingAreToldInTheStatusBar) {
             f.prompter.expectWarning("Play Résumé",
                                      "Can't start the player: " + QDir::toNativeSeparators(player));
         f.editor.CommonModth(c.command);
-        EXPECT_PROMPTS_DONE(f.prompter);
         // Packages name the pages that hold nothing; an export does not.
         const QString empty = c.command == CmdExportPdf || c.bytes < 0 ? "" : NothingOn;
         if (c.status) {
@@ -228,7 +224,6 @@ TEST(EditMedia, HelpOpensTheManualBesideTheProgramOrInstalled) {
             f.prompter.expectWarning("Help", "Can't find the user manual beside the program: " +
                                                  f.box.path("bin/doc/manual.html"));
         f.editor.aboutMenu(1);
-        EXPECT_PROMPTS_DONE(f.prompter);
         EXPECT_EQ(f.view.log,
                   c.opened ? QStringList{QUrl::fromLocalFile(f.box.path(c.opened)).toString()}
                            : QStringList());
@@ -297,7 +292,6 @@ TEST(SaveAs, CollectedMediaStillResolvesFromAnotherFolderAndThroughUndoOrARefusa
     QDir(f.box.dir.path()).mkpath("new/deeper");
     const QString moved = f.box.path("new/deeper/cv.qds");
     f.saveAs(moved);
-    EXPECT_PROMPTS_DONE(f.prompter);
     EXPECT_TRUE(f.storedPaths().contains("../../old/cv media/song.mp3"));
     EXPECT_TRUE(MissingMedia(*f.doc).isEmpty()) << qPrintable(MissingMedia(*f.doc).join('\n'));
     EXPECT_FALSE(f.doc->Dirty);
@@ -323,7 +317,6 @@ TEST(SaveAs, CollectedMediaStillResolvesFromAnotherFolderAndThroughUndoOrARefusa
     f.prompter.expectWarning("Save QDV Script File",
                              QStringLiteral("Can't save file : ") + nowhere);
     f.editor.menuCommand(CmdSaveAs);
-    EXPECT_PROMPTS_DONE(f.prompter);
     EXPECT_EQ(f.storedPaths(), stored);
     EXPECT_EQ(f.doc->ScriptPath, moved);
     EXPECT_TRUE(MissingMedia(*f.doc).isEmpty());
@@ -404,7 +397,6 @@ TEST(DropFiles, ADroppedProjectOpensAfterTheChangedDocumentQuestion) {
     EXPECT_EQ(f.doc->Profile.FirstName.trimNull(), "Ada");
     EXPECT_EQ(f.doc->ScriptPath, path);
     EXPECT_FALSE(f.doc->Dirty);
-    EXPECT_PROMPTS_DONE(f.prompter);
 }
 
 TEST(RecentFiles, TheLatestComesFirstOnceEightAreKeptAndAMissingOneIsTold) {
@@ -423,7 +415,6 @@ TEST(RecentFiles, TheLatestComesFirstOnceEightAreKeptAndAMissingOneIsTold) {
     const QString gone = f.box.path("gone.qds");
     f.prompter.expectWarning("Open File", MissingRecentText(gone));
     EXPECT_FALSE(f.editor.openRecent(gone)); // the menu drops it
-    EXPECT_PROMPTS_DONE(f.prompter);
 }
 
 ProcessContext EditorRun(const Sandbox& box) {
@@ -479,7 +470,6 @@ TEST(Recovery, WorkOfAKilledEditorIsOfferedAtTheNextStartAndOnlyGoneRunsAreClear
                                             "want to restore the work it had not saved?"),
                              answer);
         f.editor.offerRecovery();
-        EXPECT_PROMPTS_DONE(f.prompter);
         if (answer == Answer::Yes) {
             EXPECT_EQ(SavedBytes(*f.doc), SavedBytes(*lost));
             EXPECT_EQ(f.doc->ScriptPath, lost->ScriptPath);
@@ -497,7 +487,6 @@ TEST(Recovery, WorkOfAKilledEditorIsOfferedAtTheNextStartAndOnlyGoneRunsAreClear
         EXPECT_FALSE(QDir(emptyKilled.WorkFolder).exists());
         EXPECT_TRUE(QFile::exists(RecoveryFile(live, getpid())));
         f.editor.offerRecovery(); // asked once only
-        EXPECT_PROMPTS_DONE(f.prompter);
     }
 }
 

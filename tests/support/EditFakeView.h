@@ -6,6 +6,8 @@
 #include "edit/EditorView.h"
 #include "model/TabMap.h"
 
+#include <gtest/gtest.h>
+
 #include <QStringList>
 
 #include <memory>
@@ -94,6 +96,8 @@ struct EditorFixture {
         if (start)
             editor.formLoad();
     }
+    // Every scripted answer was used, and nothing else was asked.
+    ~EditorFixture() { EXPECT_PROMPTS_DONE(prompter); }
     // Shows content page `tab` through the strip, as a user's click does.
     void showTab(int tab) {
         view.selectStrip(GetTabIndex(tab));
