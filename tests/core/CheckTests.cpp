@@ -298,7 +298,6 @@ TEST(CheckCli, PrintsFindingsForPeopleOrAsJsonWithTheExitStatus) {
     const QJsonArray list = QJsonDocument::fromJson(out).object().value("findings").toArray();
     ASSERT_EQ(list.size(), 1);
     const QJsonObject f = list[0].toObject();
-    EXPECT_EQ(f.keys(), (QStringList{"kind", "message", "object", "suggestions", "tab", "word"}));
     EXPECT_EQ(f.value("kind").toString(), "spelling");
     EXPECT_EQ(f.value("tab").toInt(), 3);
     EXPECT_EQ(f.value("word").toString(), "managment");

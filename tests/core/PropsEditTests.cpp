@@ -347,7 +347,7 @@ TEST(PropsSettings, OpeningFillsTheControls) {
     }
 }
 
-TEST(PropsFontChoice, StyleBitsToControlsAndBack) {
+TEST(PropsFontChoice, StyleBitsSizesAndExactSearch) {
     const struct {
         int32_t style;
         int row;
@@ -364,9 +364,8 @@ TEST(PropsFontChoice, StyleBitsToControlsAndBack) {
         EXPECT_EQ(StyleStrikeout(r.style), r.strikeout);
         EXPECT_EQ(StyleFromControls(r.row, r.underline, r.strikeout), r.style);
     }
-}
 
-TEST(PropsFontChoice, SizesAndExactSearch) {
+    // Sizes, and the search for a row that matches exactly.
     const QStringList sizes = FontSizeRows();
     EXPECT_EQ(FindExactRow(sizes, "13"), -1);
     EXPECT_EQ(FindExactRow(sizes, "14"), 5);

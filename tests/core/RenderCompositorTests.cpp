@@ -3,7 +3,6 @@
 #include "render/HomePage.h"
 #include "render/IconRing.h"
 #include "render/PageCompositor.h"
-#include "render/PictureCache.h"
 #include "render/ResImages.h"
 #include "render/TabPictureLayout.h"
 #include "render/WorkspacePainter.h"
@@ -17,7 +16,6 @@
 #include <QSet>
 
 #include <climits>
-#include <thread>
 
 using namespace zentor;
 
@@ -189,34 +187,6 @@ TEST_F(RenderCompositor, OutputsAndWriteBack) {
     }
 }
 
-TEST_F(RenderCompositor, PagesRenderInParallelAsInSequence) {
-    const QString red = test::Picture(box, "red.png", 300, 200, qRgb(255, 0, 0));
-    const QString blue = test::Picture(box, "blue.png", 300, 200, qRgb(0, 0, 255));
-    for (int tab = 1; tab <= 7; ++tab) {
-        test::PlaceImage(*doc, tab, tab, QRect(tab * 20, tab * 30, 300, 200), tab % 2 ? red : blue);
-        test::PlaceText(*doc, tab, tab, {50, 400, 600, 100},
-                        QStringLiteral("Page %1 of a résumé drawn on a worker thread").arg(tab));
-    }
-    std::vector<QImage> sequential;
-    for (int page = 1; page <= 8; ++page)
-        sequential.push_back(RenderPageImage(*doc, page, res));
-    std::vector<QImage> parallel(8);
-    PictureCache shared;
-    const Document& frozen = *doc;
-    std::thread a([&] {
-        for (int page = 1; page <= 8; page += 2)
-            parallel[size_t(page - 1)] = RenderPageImage(frozen, page, res, &shared);
-    });
-    std::thread b([&] {
-        for (int page = 2; page <= 8; page += 2)
-            parallel[size_t(page - 1)] = RenderPageImage(frozen, page, res, &shared);
-    });
-    a.join();
-    b.join();
-    for (size_t i = 0; i < 8; ++i)
-        EXPECT_EQ(parallel[i], sequential[i]) << "page " << i + 1;
-}
-
 TEST_F(RenderCompositor, ExtremeGeometryFromADamagedFileIsSurvived) {
     const QString red = test::Picture(box, "red.png", 40, 40, qRgb(255, 0, 0));
     // Left, top, width, height as a damaged file may hold them (no QRect: it would overflow).
@@ -357,7 +327,7 @@ TEST_F(RenderWorkspace, Previews) {
     EXPECT_EQ(UserIconPreview(*doc, res).pixel(64, 64), White);
 }
 
-TEST(RenderLayout, RoundsHalvesToEven) {
+TEST(RenderLayout, RoundsHalvesToEvenInTheTabPictureRectangles) {
     const struct {
         double in;
         int out;
@@ -365,14 +335,13 @@ TEST(RenderLayout, RoundsHalvesToEven) {
                  {-2.5, -2}, {2.4999, 2}, {2.5001, 3}, {171.6, 172}, {-3.7, -4}};
     for (const auto& c : cases)
         EXPECT_EQ(RoundHalfEven(c.in), c.out) << c.in;
-}
 
-TEST(RenderLayout, TabPictureRectangles) {
+    // The tab picture's rectangle in each mode, rounded so.
     const struct {
         int mode;
         QSize pic, frame;
         QRect want;
-    } cases[] = {
+    } rects[] = {
         // A picture smaller than the frame.
         {0, {400, 300}, {800, 600}, {0, 0, 800, 600}},
         {1, {400, 300}, {800, 600}, {0, 0, 800, 600}},
@@ -406,7 +375,7 @@ TEST(RenderLayout, TabPictureRectangles) {
         {3, {0, 0}, {800, 600}, {0, 0, 0, 0}},
         {0, {0, 0}, {800, 600}, {0, 0, 800, 600}},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : rects) {
         const auto r = TabPictureRect(c.mode, c.pic, c.frame);
         ASSERT_TRUE(r.has_value()) << c.mode;
         EXPECT_EQ(*r, c.want) << "mode " << c.mode << " picture " << c.pic.width() << "x"

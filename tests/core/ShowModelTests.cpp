@@ -23,7 +23,7 @@ ShowHeader header(int speed, int asRun, int keep) {
     return h;
 }
 
-TEST(ShowSettingsTest, HoldAndFadeFollowTheHeaderWithinTheirRanges) {
+TEST(ShowSettingsTest, HoldFadeAndMusicFollowTheHeaderWithinTheirRanges) {
     struct Case {
         int speed, keep, hold, fade;
     } cases[] = {
@@ -39,19 +39,18 @@ TEST(ShowSettingsTest, HoldAndFadeFollowTheHeaderWithinTheirRanges) {
     EXPECT_TRUE(ShowSettingsOf(header(20, 1, 7000)).AutoRun);
     EXPECT_FALSE(ShowSettingsOf(header(20, 0, 7000)).AutoRun);
     EXPECT_FALSE(ShowSettingsOf(header(20, 2, 7000)).AutoRun);
-}
 
-TEST(ShowSettingsTest, MusicVolumeAndLoop) {
-    struct Case {
+    // The music: its volume within range, looped when the header repeats.
+    struct Music {
         int volume, repeat;
         double expectVolume;
         bool loop;
-    } cases[] = {{500, 1, 0.5, true},
+    } music[] = {{500, 1, 0.5, true},
                  {0, 0, 0.0, false},
                  {1000, 2, 1.0, false},
                  {4000, 1, 1.0, true},
                  {-3, 1, 0.0, true}};
-    for (const Case& c : cases) {
+    for (const Music& c : music) {
         ShowHeader h;
         h.MusicVolume = c.volume;
         h.AutoRepeat = c.repeat;
