@@ -77,7 +77,6 @@ TEST(EditMedia, OpeningAProjectWithMovedMediaAsksOnceAndLooksInAFolder) {
         f.editor.CommonModth(CmdOpen);
         EXPECT_EQ(f.doc->Dirty, c.repointed) << c.what;
         EXPECT_EQ(f.view.status.toStdString(), c.status) << c.what;
-        const QString dir = c.repointed ? "found/" : "gone/";
         EXPECT_EQ(f.doc->Header.BackMusic.trimNull(),
                   f.box.path(c.repointed ? "found/x/song.mp3" : "gone/song.mp3"))
             << c.what;

@@ -136,7 +136,6 @@ TEST_F(WindowTest, InsertingATextSelectsItUnderTheFrame) {
     clickStrip(2);
     run(CmdInsertText);
     EXPECT_EQ(list->currentIndex(), 1);
-    EXPECT_TRUE(list->currentText().startsWith("Text - text 1"));
     // The text's pane is the one shown, 130 pixels shorter than the tool pane.
     const int toolHeight = find<QWidget>("PicTool")->height();
     for (int k = 0; k < 5; ++k) {
