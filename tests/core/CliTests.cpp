@@ -79,7 +79,6 @@ TEST(Cli, ErrorsAndDamagedFiles) {
     } cases[] = {
         {"no command", {}, 2, "usage"},
         {"unknown command", {"frobnicate"}, 2, "unknown command"},
-        {"missing argument", {"new"}, 2, "usage"},
         {"missing file", {"info", box.path("none.qds")}, 1, "cannot open"},
         {"a folder", {"info", box.path("")}, 2, "unknown kind"},
         {"a folder as project", {"info", box.dir.path(), "--as", "qds"}, 1, "cannot open"},
@@ -182,7 +181,6 @@ TEST(RenderCli, RendersPagesAndViews) {
         QRgb at125; // pixel (125, 125) of a PNG result
     } cases[] = {
         {{"1"}, "p1.png", {800, 600}, qRgb(0, 0, 255)},
-        {{"1", "--view"}, "v1.png", {800, 600}, qRgb(0, 0, 255)},
         {{"3"}, "p3.jpg", {800, 600}, 0},
         {{"0", "--view"}, "v0.jpg", {800, 600}, 0},
     };

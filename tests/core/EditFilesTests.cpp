@@ -359,14 +359,14 @@ TEST(DropFiles, PicturesOnAContentPageAreOneStepAndElsewhereNothing) {
     const QString b = Picture(f.box, "b.png", 40, 40);
     const QByteArray clean = SavedBytes(*f.doc);
     f.editor.dropFiles({a}, IntPoint{400, 300}); // the profile page
-    f.showTab(2);
+    f.showTab(1);
     f.editor.dropFiles({a}, std::nullopt); // beside the page
     EXPECT_EQ(SavedBytes(*f.doc), clean);
 
     f.editor.dropFiles({a, b}, IntPoint{400, 300});
     EXPECT_TRUE(f.doc->Dirty);
     EXPECT_EQ(f.doc->Images[1].FileName.trimNull(), a);
-    EXPECT_EQ(f.doc->Images[2].TabNo, 2);
+    EXPECT_EQ(f.doc->Images[2].TabNo, 1);
     EXPECT_EQ(f.doc->Images[2].Left, 390); // the next one 10 pixels on
     EXPECT_EQ(f.editor.state().SelectedIndex, 2);
     EXPECT_EQ(f.editor.undoStack().undoName(), "Drop 2 pictures");

@@ -188,6 +188,7 @@ TEST(CodePage, FieldsAreCutAtCharacterBoundaries) {
     ASSERT_TRUE(cyrillic);
     EXPECT_EQ(cyrillic->encode(QStringLiteral("Жук"), 10), QByteArray("\xC6\xF3\xEA"));
     EXPECT_EQ(cyrillic->decode("\xC6\xF3\xEA"), "Жук");
+    EXPECT_EQ(cyrillic->decode("\xC6\x98\xEA"), QStringLiteral("Ж\uFFFDк"));
     EXPECT_FALSE(CodePage::create("no-such-page"));
 }
 

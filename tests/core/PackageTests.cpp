@@ -84,7 +84,6 @@ TEST_F(PackagePlayerTest, PlayerReadsAPackageNamedOnItsCommandLine) {
         const char* error;  // on failure
     } cases[] = {
         {generate("cv.qdv", false), 0, "qdv", nullptr},
-        {generate("other.exe", true), 0, "selfrun", nullptr},
         {QString(), 1, nullptr, "no résumé inside this program"},
         {junk, 1, nullptr, "is not a package"},
     };

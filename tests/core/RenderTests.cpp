@@ -1,4 +1,5 @@
 #include "TestSupport.h"
+#include "render/HomePage.h"
 #include "render/ImageSave.h"
 #include "render/PictureCache.h"
 #include "render/PictureLoader.h"
@@ -218,6 +219,16 @@ TEST(RenderText, HintsChooseAntialiasing) {
         for (int other = 1; other < hint; ++other)
             EXPECT_NE(looks.back(), looks[size_t(other - 1)]) << hint << " vs " << other;
     }
+}
+
+TEST(RenderText, HomeContactLinesAreCentred) {
+    show::ShowProfile profile;
+    profile.Phone = "0123 456 789";
+    QImage img = Solid(800, 600, qRgb(0, 0, 0));
+    QPainter p(&img);
+    PaintHomeContacts(p, show::LayoutHome(profile, 800, 600));
+    p.end();
+    EXPECT_NEAR(Ink(img, qRgb(0, 0, 0)).center().x(), 400, 3);
 }
 
 TEST(RenderText, UnderlineSpansTheText) {

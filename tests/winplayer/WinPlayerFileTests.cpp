@@ -58,7 +58,6 @@ TEST(WinPlayerFile, GenerateChoosesThePlayer) {
         const char* player; // "windows", "linux", "" for none
     } cases[] = {
         {"cv.exe", "", 0, "windows"},
-        {"cv.EXE", "", 0, "windows"},
         {"cv.bin", "--selfrun", 0, "windows"},
         {"cv.win", "--player windows", 0, "windows"},
         {"cv.exe", "--player linux", 0, "linux"},
