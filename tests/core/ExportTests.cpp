@@ -11,7 +11,9 @@
 #include "generate/ResumeGenerator.h"
 #include "io/ScriptFile.h"
 #include "render/PageCompositor.h"
+#include "render/PictureCache.h"
 #include "render/ResImages.h"
+#include "render/WorkspacePainter.h"
 
 #include <QDir>
 #include <QImage>
@@ -311,8 +313,8 @@ TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
     ShowPictures::EmptyPages judged;
     QImage homeFromHead;
     PackageWatch watch{&judged, [&](PackageContents head) {
-                           homeFromHead = ShowPictures(head, res, background, {})
-                                              .picture(show::HomePicture);
+                           homeFromHead =
+                               ShowPictures(head, res, background, {}).picture(show::HomePicture);
                        }};
     ASSERT_TRUE(DocumentPackage(*pr.doc, pr.box.ctx, res, package, warnings, error, watch))
         << error.toStdString();
@@ -329,6 +331,22 @@ TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
     EXPECT_EQ(ShowPictures(package, res, background, judged).showOrder(), decoded.showOrder());
     EXPECT_EQ(decoded.showOrder(), (std::vector<int>{17, 16, 15, 13, 12, 11, 18}));
     EXPECT_EQ(homeFromHead, decoded.picture(show::HomePicture));
+}
+
+// From the editor, an export draws from the pictures its workspace has decoded: none is
+// decoded again, and the file is the one a cold export writes.
+TEST(ExportWebPage, FromTheEditorDrawsWhatTheWorkspaceDecoded) {
+    ExportProject pr;
+    const ResImages res = ResImages::load();
+    PictureCache shown;
+    Document viewed = *pr.doc;
+    for (int tab = 0; tab <= 8; ++tab)
+        ASSERT_FALSE(PaintWorkspace(viewed, tab, 0, res, pr.box.ctx, &shown).isNull());
+    const int decoded = shown.count();
+    ASSERT_GT(decoded, 0);
+    EXPECT_EQ(RenderWebPage(*pr.doc, res, pr.box.ctx, {}, &shown),
+              RenderWebPage(*pr.doc, res, pr.box.ctx));
+    EXPECT_EQ(shown.count(), decoded + 1); // the background at the package's own size
 }
 
 TEST(ExportWebPage, Base64OfEveryTailLength) {
