@@ -8,6 +8,7 @@
 #include "export/WebPageExport.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
+#include "render/PictureCache.h"
 
 #include <benchmark/benchmark.h>
 
@@ -37,14 +38,19 @@ double MinorFaults() {
     return double(u.ru_minflt);
 }
 
+// Arg "decoded" 1: from the editor, whose workspace has already decoded every picture.
 void BM_GenerateQdv(benchmark::State& state) {
     Stress& s = Workload();
     bench::QuietPrompter prompter;
     const QString out = s.ws.path(QStringLiteral("cv.qdv"));
+    PictureCache shown;
+    PictureCache* decoded = state.range(0) ? &shown : nullptr;
+    if (decoded)
+        RenderWebPage(*s.doc, s.res, s.ws.ctx, {}, decoded);
     const double cpu = ProcessCpuMs();
     const double faults = MinorFaults();
     for (auto _ : state) {
-        RenderedPictures pictures(s.ws.ctx, s.res);
+        RenderedPictures pictures(s.ws.ctx, s.res, decoded);
         ResumeGenerator gen(s.ws.ctx, prompter, pictures);
         gen.setParallel(true);
         auto doc = std::make_unique<Document>(*s.doc);
@@ -55,22 +61,36 @@ void BM_GenerateQdv(benchmark::State& state) {
     state.counters["cpu_ms"] = (ProcessCpuMs() - cpu) / double(state.iterations());
     state.counters["faults"] = (MinorFaults() - faults) / double(state.iterations());
 }
-BENCHMARK(BM_GenerateQdv)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_GenerateQdv)
+    ->Arg(0)
+    ->Arg(1)
+    ->ArgName("decoded")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
-// Arg 0 the PDF, 1 the web page; "bytes" is the file's size, "cpu_ms" the work of all threads.
+// Args: 0 the PDF, 1 the web page; "decoded" as above. "bytes" is the file's size,
+// "cpu_ms" the work of all threads.
 void BM_Export(benchmark::State& state) {
     Stress& s = Workload();
     const auto render = state.range(0) == 0 ? RenderPdf : RenderWebPage;
+    PictureCache shown;
+    PictureCache* decoded = state.range(1) ? &shown : nullptr;
+    if (decoded)
+        render(*s.doc, s.res, s.ws.ctx, {}, decoded);
     qint64 bytes = 0;
     const double cpu = ProcessCpuMs();
     const double faults = MinorFaults();
     for (auto _ : state)
-        bytes = render(*s.doc, s.res, s.ws.ctx, {}).size();
+        bytes = render(*s.doc, s.res, s.ws.ctx, {}, decoded).size();
     state.counters["bytes"] = double(bytes);
     state.counters["cpu_ms"] = (ProcessCpuMs() - cpu) / double(state.iterations());
     state.counters["faults"] = (MinorFaults() - faults) / double(state.iterations());
 }
-BENCHMARK(BM_Export)->Arg(0)->Arg(1)->ArgName("web")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_Export)
+    ->ArgsProduct({{0, 1}, {0, 1}})
+    ->ArgNames({"web", "decoded"})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 } // namespace
 

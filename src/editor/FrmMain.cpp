@@ -84,9 +84,9 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     panes_ = new PropertyPanes(picElementLoc_, editor_, prompter_, ctx_, this);
     auto* check = new CheckUi(this, *this, editor_, pictures_, mainEdit_);
 
-    // Generation renders with the page painter; the self-running kind starts with the
-    // player carried in the program.
-    packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_);
+    // Generation renders with the page painter, from the pictures the workspace has
+    // decoded; the self-running kind starts with the player carried in the program.
+    packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_, &pictures_);
     generator_ = std::make_unique<ResumeGenerator>(ctx_, prompter_, *packagePictures_);
     generator_->setParallel(true);
     editor_.setGenerator([this, check](bool selfRun, const QString& path) {
@@ -112,7 +112,7 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
     editor_.setExporter([this, check](ExportKind kind) {
         ProgressRun run(this, ExportTitle(kind));
         QString written;
-        RunExport(kind, doc_, prompter_, res_, ctx_, run.progress(), &written);
+        RunExport(kind, doc_, prompter_, res_, ctx_, run.progress(), &written, &pictures_);
         if (!written.isEmpty())
             check->reportAfterOutput();
         return written;

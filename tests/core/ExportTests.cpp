@@ -11,7 +11,9 @@
 #include "generate/ResumeGenerator.h"
 #include "io/ScriptFile.h"
 #include "render/PageCompositor.h"
+#include "render/PictureCache.h"
 #include "render/ResImages.h"
+#include "render/WorkspacePainter.h"
 
 #include <QDir>
 #include <QImage>
@@ -112,7 +114,9 @@ QString Tool(const QString& program, const QStringList& args) {
 
 } // namespace
 
-TEST(ExportPdf, ReadsBackAsTextFontsLinksAndMetadata) {
+// One export read back by every reader: text, fonts, links and metadata; each page's look;
+// the pictures it holds; the offsets of the pages it joined.
+TEST(ExportPdf, ReadsBackAsTheResume) {
     ExportProject pr;
     const QString pdf = pr.exportPdf();
 
@@ -148,11 +152,7 @@ TEST(ExportPdf, ReadsBackAsTextFontsLinksAndMetadata) {
             << "page " << 9 - tab << qPrintable(page);
         EXPECT_EQ(page.count("leads the team"), 1);
     }
-}
 
-TEST(ExportPdf, ContentPagesLookLikeTheirJpegPages) {
-    ExportProject pr;
-    const QString pdf = pr.exportPdf();
     Tool("pdftoppm", {"-r", "96", "-png", pdf, pr.box.path("pg")});
     const ResImages res = ResImages::load();
     ASSERT_TRUE(LoadScript(*pr.doc, pr.project).complete);
@@ -164,11 +164,8 @@ TEST(ExportPdf, ContentPagesLookLikeTheirJpegPages) {
         ASSERT_TRUE(jpeg.loadFromData(RenderPageJpeg(*pr.doc, tab, res)));
         EXPECT_LT(MeanDifference(shown, jpeg), 0.04) << "page " << page;
     }
-}
 
-TEST(ExportPdf, PicturesOnceEachNoLargerThanDrawn) {
-    ExportProject pr;
-    const QString list = Tool("pdfimages", {"-list", pr.exportPdf()});
+    const QString list = Tool("pdfimages", {"-list", pdf});
     // page num type width height color comp bpc enc interp object ID ...
     QHash<QString, QSize> objects;
     for (const QString& row : list.split('\n', Qt::SkipEmptyParts).mid(2)) {
@@ -184,24 +181,21 @@ TEST(ExportPdf, PicturesOnceEachNoLargerThanDrawn) {
     EXPECT_EQ(sizes.count(QSize(400, 300)), 1);
     for (const QSize& s : sizes)
         EXPECT_TRUE(s.width() <= 800 && s.height() <= 600);
-}
 
-TEST(ExportPdf, JoinedPagesKeepEveryOffsetRight) {
-    ExportProject pr;
-    const QByteArray pdf = test::ReadAll(pr.exportPdf());
-    const qsizetype xref = pdf.lastIndexOf("\nxref\n0 ");
+    const QByteArray bytes = test::ReadAll(pdf);
+    const qsizetype xref = bytes.lastIndexOf("\nxref\n0 ");
     ASSERT_GT(xref, 0);
-    const int count = pdf.mid(xref + 8, pdf.indexOf('\n', xref + 8) - xref - 8).toInt();
-    qsizetype row = pdf.indexOf('\n', xref + 8) + 1;
+    const int count = bytes.mid(xref + 8, bytes.indexOf('\n', xref + 8) - xref - 8).toInt();
+    qsizetype row = bytes.indexOf('\n', xref + 8) + 1;
     for (int i = 0; i < count; ++i, row += 20) {
-        if (pdf.at(row + 17) != 'n')
+        if (bytes.at(row + 17) != 'n')
             continue;
-        const qsizetype at = pdf.mid(row, 10).toLongLong();
-        EXPECT_TRUE(pdf.mid(at).startsWith(QByteArray::number(i) + " 0 obj")) << "object " << i;
+        const qsizetype at = bytes.mid(row, 10).toLongLong();
+        EXPECT_TRUE(bytes.mid(at).startsWith(QByteArray::number(i) + " 0 obj")) << "object " << i;
     }
-    const qsizetype start = pdf.lastIndexOf("startxref\n") + 10;
-    EXPECT_EQ(pdf.mid(start).split('\n').first().toLongLong(), xref + 1);
-    EXPECT_TRUE(JoinPdfs({pdf, "%PDF-1.4\n"}, {}).isEmpty());
+    const qsizetype start = bytes.lastIndexOf("startxref\n") + 10;
+    EXPECT_EQ(bytes.mid(start).split('\n').first().toLongLong(), xref + 1);
+    EXPECT_TRUE(JoinPdfs({bytes, "%PDF-1.4\n"}, {}).isEmpty());
 }
 
 TEST(ExportPdf, FailureLeavesNothingBehind) {
@@ -311,8 +305,8 @@ TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
     ShowPictures::EmptyPages judged;
     QImage homeFromHead;
     PackageWatch watch{&judged, [&](PackageContents head) {
-                           homeFromHead = ShowPictures(head, res, background, {})
-                                              .picture(show::HomePicture);
+                           homeFromHead =
+                               ShowPictures(head, res, background, {}).picture(show::HomePicture);
                        }};
     ASSERT_TRUE(DocumentPackage(*pr.doc, pr.box.ctx, res, package, warnings, error, watch))
         << error.toStdString();
@@ -329,6 +323,22 @@ TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
     EXPECT_EQ(ShowPictures(package, res, background, judged).showOrder(), decoded.showOrder());
     EXPECT_EQ(decoded.showOrder(), (std::vector<int>{17, 16, 15, 13, 12, 11, 18}));
     EXPECT_EQ(homeFromHead, decoded.picture(show::HomePicture));
+}
+
+// From the editor, an export draws from the pictures its workspace has decoded: none is
+// decoded again, and the file is the one a cold export writes.
+TEST(ExportWebPage, FromTheEditorDrawsWhatTheWorkspaceDecoded) {
+    ExportProject pr;
+    const ResImages res = ResImages::load();
+    PictureCache shown;
+    Document viewed = *pr.doc;
+    for (int tab = 0; tab <= 8; ++tab)
+        ASSERT_FALSE(PaintWorkspace(viewed, tab, 0, res, pr.box.ctx, &shown).isNull());
+    const int decoded = shown.count();
+    ASSERT_GT(decoded, 0);
+    EXPECT_EQ(RenderWebPage(*pr.doc, res, pr.box.ctx, {}, &shown),
+              RenderWebPage(*pr.doc, res, pr.box.ctx));
+    EXPECT_EQ(shown.count(), decoded + 1); // the background at the package's own size
 }
 
 TEST(ExportWebPage, Base64OfEveryTailLength) {

@@ -17,8 +17,8 @@ namespace {
 // The show recorded as the player runs it; ExportVideo writes beside `path` itself.
 bool WriteVideo(const Document& doc, const QString& path, const ResImages& res,
                 const ProcessContext& ctx, QString& error, const Progress& progress,
-                QStringList& warnings) {
-    const auto show = DocumentShowFrames(doc, ctx, res, warnings, error);
+                QStringList& warnings, PictureCache* pictures) {
+    const auto show = DocumentShowFrames(doc, ctx, res, warnings, error, pictures);
     if (!show)
         return false;
     const VideoResult result = ExportVideo(doc, *show, path, VideoOptions{}, progress);
@@ -52,7 +52,7 @@ QString ExportTitle(ExportKind kind) {
 
 bool WriteExport(ExportKind kind, const Document& doc, const QString& path, const ResImages& res,
                  const ProcessContext& ctx, QString* error, const Progress& progress,
-                 QStringList* warnings) {
+                 QStringList* warnings, PictureCache* pictures) {
     const auto fail = [&](const QString& why) {
         if (error)
             *error = why;
@@ -61,7 +61,7 @@ bool WriteExport(ExportKind kind, const Document& doc, const QString& path, cons
     if (kind == ExportKind::Video) {
         QString why;
         QStringList told;
-        const bool written = WriteVideo(doc, path, res, ctx, why, progress, told);
+        const bool written = WriteVideo(doc, path, res, ctx, why, progress, told, pictures);
         if (warnings)
             *warnings += told;
         return written || fail(why);
@@ -71,8 +71,9 @@ bool WriteExport(ExportKind kind, const Document& doc, const QString& path, cons
         cancelled = !GoOn(progress, page, pages);
         return !cancelled;
     };
-    const QByteArray bytes = kind == ExportKind::Pdf ? RenderPdf(doc, res, ctx, watched)
-                                                     : RenderWebPage(doc, res, ctx, watched);
+    const QByteArray bytes = kind == ExportKind::Pdf
+                                 ? RenderPdf(doc, res, ctx, watched, pictures)
+                                 : RenderWebPage(doc, res, ctx, watched, pictures);
     if (cancelled)
         return fail(QString());
     if (bytes.isEmpty())
@@ -87,7 +88,8 @@ bool WriteExport(ExportKind kind, const Document& doc, const QString& path, cons
 }
 
 bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const ResImages& res,
-               const ProcessContext& ctx, const Progress& progress, QString* written) {
+               const ProcessContext& ctx, const Progress& progress, QString* written,
+               PictureCache* pictures) {
     const auto [title, ext] = NamesOf(kind);
     QString path =
         prompter.chooseFile(true, title, QLatin1Char('*') + ext + QStringLiteral("|*") + ext);
@@ -101,7 +103,7 @@ bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const R
         return false;
     QString error;
     QStringList warnings;
-    if (WriteExport(kind, doc, path, res, ctx, &error, progress, &warnings)) {
+    if (WriteExport(kind, doc, path, res, ctx, &error, progress, &warnings, pictures)) {
         if (!warnings.isEmpty())
             prompter.ask(title, warnings.join(QLatin1Char('\n')), Prompter::Buttons::Ok,
                          Prompter::Icon::Information, Prompter::Answer::Ok);

@@ -9,6 +9,7 @@ namespace zentor {
 
 struct Document;
 struct ProcessContext;
+class PictureCache;
 class Prompter;
 class ResImages;
 
@@ -19,10 +20,10 @@ enum class ExportKind { Pdf, WebPage, Video };
 // unless the name ends in it (any case), the overwrite question, then the export. A failure
 // is told in a box under the same title; a cancelled one is not; what a written one warned
 // about (music that could not be decoded) is told after it. Returns whether a file was
-// written, and where in `written`.
+// written, and where in `written`. Pictures are decoded into `pictures` when given.
 bool RunExport(ExportKind kind, const Document& doc, Prompter& prompter, const ResImages& res,
-               const ProcessContext& ctx, const Progress& progress = {},
-               QString* written = nullptr);
+               const ProcessContext& ctx, const Progress& progress = {}, QString* written = nullptr,
+               PictureCache* pictures = nullptr);
 
 // "Export PDF", "Export Web Page", "Export Video": the title of its dialogs and boxes.
 QString ExportTitle(ExportKind kind);
@@ -32,6 +33,6 @@ QString ExportTitle(ExportKind kind);
 // shortcoming (a silent video) is added to `warnings`.
 bool WriteExport(ExportKind kind, const Document& doc, const QString& path, const ResImages& res,
                  const ProcessContext& ctx, QString* error, const Progress& progress = {},
-                 QStringList* warnings = nullptr);
+                 QStringList* warnings = nullptr, PictureCache* pictures = nullptr);
 
 } // namespace zentor

@@ -71,10 +71,10 @@ int PackageShowFrames::stillUntil(int ms) const {
 
 bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
                      PackageContents& package, QStringList& warnings, QString& error,
-                     const PackageWatch& watch) {
+                     const PackageWatch& watch, PictureCache* pictures) {
     QStringList said;
     CollectingPrompter prompter(said);
-    RenderedPictures rendered(ctx, res);
+    RenderedPictures rendered(ctx, res, pictures);
     if (ShowPictures::EmptyPages* judged = watch.judged) {
         *judged = {};
         const QSize frame = FrameSize(doc);
@@ -110,9 +110,9 @@ QByteArray DefaultHomeBackground(const ProcessContext& ctx) {
 
 std::unique_ptr<ShowFrames> DocumentShowFrames(const Document& doc, const ProcessContext& ctx,
                                                const ResImages& res, QStringList& warnings,
-                                               QString& error) {
+                                               QString& error, PictureCache* pictures) {
     PackageContents package;
-    if (!DocumentPackage(doc, ctx, res, package, warnings, error))
+    if (!DocumentPackage(doc, ctx, res, package, warnings, error, {}, pictures))
         return nullptr;
     return std::make_unique<PackageShowFrames>(package, res, DefaultHomeBackground(ctx));
 }

@@ -14,6 +14,7 @@ namespace zentor {
 struct Document;
 struct PackageContents;
 struct ProcessContext;
+class PictureCache;
 class ResImages;
 
 // The show a player runs of a package with the slide show on from the start: each page
@@ -49,7 +50,7 @@ struct PackageWatch {
 // `warnings`.
 bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResImages& res,
                      PackageContents& package, QStringList& warnings, QString& error,
-                     const PackageWatch& watch = {});
+                     const PackageWatch& watch = {}, PictureCache* pictures = nullptr);
 
 // The built-in background a package without its own shows on its home page.
 QByteArray DefaultHomeBackground(const ProcessContext& ctx);
@@ -57,6 +58,6 @@ QByteArray DefaultHomeBackground(const ProcessContext& ctx);
 // The show of a document as its recipient will see it: its package, shown as above.
 std::unique_ptr<ShowFrames> DocumentShowFrames(const Document& doc, const ProcessContext& ctx,
                                                const ResImages& res, QStringList& warnings,
-                                               QString& error);
+                                               QString& error, PictureCache* pictures = nullptr);
 
 } // namespace zentor

@@ -50,13 +50,14 @@ QByteArray PagePdf(QSize frame, const std::vector<Painting>& pages) {
 } // namespace
 
 QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx,
-                     const Progress& progress) {
+                     const Progress& progress, PictureCache* pictures) {
     const QSize frame = FrameSize(doc);
     if (frame.isEmpty())
         return QByteArray();
     // One cache for the whole file: a picture drawn on two pages is decoded once (and the
     // join keeps one copy of it).
-    PictureCache cache;
+    PictureCache own;
+    PictureCache& cache = pictures ? *pictures : own;
     std::vector<PictureJobs::Job> jobs;
     jobs.push_back([&] {
         return PagePdf(frame, {[&](QPainter& p) { PaintCover(p, doc, res, ctx, &cache); }});

@@ -9,6 +9,7 @@ namespace zentor {
 
 struct Document;
 struct ProcessContext;
+class PictureCache;
 class ResImages;
 
 // The résumé as a PDF a recruiter can open and a tracking system can read: page 1 a cover
@@ -17,7 +18,8 @@ class ResImages;
 // by the page painter, so texts are real text in embedded fonts and pictures are held
 // once each at the size they are drawn. Title and author name the person; the creator is
 // Vitara Zentor. Empty when the frame cannot be drawn or `progress` cancelled (page n of 8).
+// Pictures are decoded into `pictures` when given.
 QByteArray RenderPdf(const Document& doc, const ResImages& res, const ProcessContext& ctx,
-                     const Progress& progress = {});
+                     const Progress& progress = {}, PictureCache* pictures = nullptr);
 
 } // namespace zentor

@@ -254,7 +254,7 @@ QJsonObject HomeLayer(const Document& doc, const ShowPictures& pictures, const Q
 } // namespace
 
 QByteArray RenderWebPage(const Document& doc, const ResImages& res, const ProcessContext& ctx,
-                         const Progress& progress) {
+                         const Progress& progress, PictureCache* decoded) {
     if (FrameSize(doc).isEmpty())
         return QByteArray();
     std::future<PageTexts> texts = std::async(std::launch::async, TextLayers, std::cref(doc));
@@ -275,7 +275,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     PackageContents package;
     QStringList warnings;
     QString error;
-    if (!DocumentPackage(doc, ctx, res, package, warnings, error, watch))
+    if (!DocumentPackage(doc, ctx, res, package, warnings, error, watch, decoded))
         return QByteArray();
     if (!home.valid())
         home = std::async(std::launch::deferred, paintHome, std::cref(package));

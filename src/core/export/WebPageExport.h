@@ -10,6 +10,7 @@ namespace zentor {
 
 struct Document;
 struct ProcessContext;
+class PictureCache;
 class ResImages;
 
 // The résumé as one self-contained web page that plays like the player: the home page with
@@ -17,9 +18,10 @@ class ResImages;
 // the file as data. Each page is its picture as the package has it, with the words of every
 // text box laid over it as real (transparent) text in the same box, and every picture
 // object named for screen readers. Empty when the frame cannot be drawn or `progress`
-// cancelled (page n of 9, the home page last).
+// cancelled (page n of 9, the home page last). Pictures are decoded into `decoded` when
+// given.
 QByteArray RenderWebPage(const Document& doc, const ResImages& res, const ProcessContext& ctx,
-                         const Progress& progress = {});
+                         const Progress& progress = {}, PictureCache* decoded = nullptr);
 
 // Writes `bytes` in base64 at `out` (four digits for every three bytes, the last group
 // padded with '='); returns the end of what it wrote.

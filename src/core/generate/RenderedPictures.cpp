@@ -8,13 +8,14 @@
 
 namespace zentor {
 
-RenderedPictures::RenderedPictures(const ProcessContext& ctx, const ResImages& res)
-    : ctx_(ctx), res_(res) {}
+RenderedPictures::RenderedPictures(const ProcessContext& ctx, const ResImages& res,
+                                   PictureCache* pictures)
+    : ctx_(ctx), res_(res), cache_(pictures ? *pictures : own_) {}
 
 std::optional<QByteArray> RenderedPictures::resample(const QString& path, int width, int height) {
     ProcessContext own = ctx_;
     own.TempImagePath = ctx_.WorkFolder + QStringLiteral("resample-%1.jpg").arg(serial_++);
-    if (!ResizeToTemp(path, width, height, own))
+    if (!ResizeToTemp(path, width, height, own, &cache_))
         return std::nullopt;
     QByteArray bytes;
     const bool read = ReadFileBytes(own.TempImagePath, bytes) > 0;

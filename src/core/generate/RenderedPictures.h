@@ -19,7 +19,10 @@ class ResImages;
 // (what the compositor writes back is applied as each page is written).
 class RenderedPictures : public PackagePictures {
 public:
-    RenderedPictures(const ProcessContext& ctx, const ResImages& res);
+    // Pictures are decoded into `pictures` when given (the editor's own, so that what it
+    // has shown is not decoded again), else into a cache of this object's.
+    RenderedPictures(const ProcessContext& ctx, const ResImages& res,
+                     PictureCache* pictures = nullptr);
 
     std::optional<QByteArray> resample(const QString& path, int width, int height) override;
     std::optional<QByteArray> renderPage(const Document& doc, int page) override;
@@ -34,7 +37,8 @@ public:
 private:
     const ProcessContext& ctx_;
     const ResImages& res_;
-    PictureCache cache_;
+    PictureCache own_;
+    PictureCache& cache_;
     std::atomic<int> serial_{0};
     PageSeen pageSeen_;
 };

@@ -60,7 +60,8 @@ QByteArray EncodeJpeg(const QImage& image, int quality) {
     return bytes;
 }
 
-bool ResizeToTemp(const QString& sourcePath, int width, int height, const ProcessContext& ctx) {
+bool ResizeToTemp(const QString& sourcePath, int width, int height, const ProcessContext& ctx,
+                  PictureCache* cache) {
     if (width <= 0 || height <= 0 || qint64(width) * height > MaxPicturePixels)
         return false;
     QImage canvas(width, height, QImage::Format_ARGB32_Premultiplied);
@@ -69,7 +70,7 @@ bool ResizeToTemp(const QString& sourcePath, int width, int height, const Proces
     canvas.fill(Qt::transparent);
     {
         QPainter p(&canvas);
-        DrawPictureFile(p, sourcePath.trimmed(), canvas.rect(), nullptr);
+        DrawPictureFile(p, sourcePath.trimmed(), canvas.rect(), cache);
     }
     ctx.ensureWorkFolder();
     return SaveImageAs(canvas, ctx.TempImagePath, 95);

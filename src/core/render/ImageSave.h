@@ -6,6 +6,7 @@
 
 namespace zentor {
 
+class PictureCache;
 struct ProcessContext;
 
 // Saves by the ending of the path, tested exactly on its last four characters lower-cased
@@ -23,6 +24,8 @@ QByteArray EncodeJpeg(const QImage& image, int quality);
 // Stretches the picture at `sourcePath` (aspect not kept, smooth) to width x height and
 // writes it as a JPEG of quality 95 to the temporary picture. A missing or unreadable
 // source still writes a picture of that size, all black. Returns whether it was written.
-bool ResizeToTemp(const QString& sourcePath, int width, int height, const ProcessContext& ctx);
+// The source is decoded through `cache` when given.
+bool ResizeToTemp(const QString& sourcePath, int width, int height, const ProcessContext& ctx,
+                  PictureCache* cache = nullptr);
 
 } // namespace zentor
