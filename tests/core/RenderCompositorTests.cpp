@@ -424,6 +424,8 @@ TEST(RenderLayout, IconRingAndBadge) {
     EXPECT_EQ(odd[0].Left, 448);
 
     EXPECT_EQ(BadgeRect(QSize(800, 600)), QRect(530, 418, 240, 172));
+    // The home caption's strip: the frame's width, 80 below the centre (300.5 rounds to 300).
+    EXPECT_EQ(HomeCaptionBox(QSize(800, 601)), QRect(0, 380, 800, 24));
     // 1024 * 0.3 = 307.2 -> 307; 307 * 0.715 = 219.505 -> 220.
     EXPECT_EQ(BadgeRect(QSize(1024, 768)), QRect(1024 - 307 - 30, 768 - 220 - 10, 307, 220));
 }
