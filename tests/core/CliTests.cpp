@@ -120,6 +120,10 @@ TEST(Cli, ErrorsAndDamagedFiles) {
     QByteArray out;
     ASSERT_EQ(RunCli({"info", box.path("cut.qds")}, &out), 0);
     EXPECT_EQ(field(parse(out), "Profile", "FirstName").toString(), "Quorvix");
+    // A disk that takes no more (here a file size limit) fails the save's last bytes.
+    EXPECT_EQ(test::RunProcess("sh", {"-c", "trap '' XFSZ; ulimit -f 1; exec \"$0\" new \"$1\"",
+                                      ZENTOR_CLI_PATH, box.path("o.qds")}),
+              1);
     // A failed command leaves no file, not even a part of one.
     for (const char* name : {"o.qds", "o.png", "o.mp4"})
         EXPECT_FALSE(QFile::exists(box.path(name))) << name;

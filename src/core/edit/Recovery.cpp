@@ -1,12 +1,12 @@
 #include "edit/Recovery.h"
 
+#include "io/FileUtil.h"
 #include "io/ScriptFile.h"
 #include "model/DefaultDocument.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -20,11 +20,6 @@ const QString Prefix = QStringLiteral("recovery-");
 
 QString PathFileOf(const QString& recovery) {
     return recovery.chopped(4) + QStringLiteral(".path");
-}
-
-bool WriteAtomically(const QString& path, const QByteArray& bytes) {
-    QSaveFile f(path);
-    return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() && f.commit();
 }
 
 void RemoveFiles(const QString& recovery) {
@@ -63,8 +58,9 @@ bool Autosave(const Document& doc, const ProcessContext& ctx) {
     }
     Document copy = doc; // serializing recomputes the counts into the header
     // The path first: a recovery file never stands without it.
-    return ctx.ensureWorkFolder() && WriteAtomically(PathFileOf(file), doc.ScriptPath.toUtf8()) &&
-           WriteAtomically(file, SerializeScript(copy));
+    return ctx.ensureWorkFolder() &&
+           WriteFileAtomically(PathFileOf(file), doc.ScriptPath.toUtf8()) &&
+           WriteFileAtomically(file, SerializeScript(copy));
 }
 
 void RemoveRecovery(const ProcessContext& ctx) {

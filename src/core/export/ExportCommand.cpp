@@ -5,6 +5,7 @@
 #include "export/PdfExport.h"
 #include "export/VideoExport.h"
 #include "export/WebPageExport.h"
+#include "io/FileUtil.h"
 #include "model/Document.h"
 
 #include <QFileInfo>
@@ -82,7 +83,7 @@ bool WriteExport(ExportKind kind, const Document& doc, const QString& path, cons
                         .arg(doc.Header.FrameHeight));
     // Written beside the target and renamed at the end: a failure leaves no file behind.
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !CommitWhole(file))
         return fail(QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
     return true;
 }

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <sys/stat.h>
 
@@ -53,6 +54,20 @@ QString ResolvePath(const QString& scriptPath, const QString& raw) {
     if (p.isEmpty() || scriptPath.isEmpty() || QDir::isAbsolutePath(p))
         return p;
     return QDir::cleanPath(QFileInfo(scriptPath).absoluteDir().filePath(p));
+}
+
+bool CommitWhole(QSaveFile& file) {
+    if (!file.flush()) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit();
+}
+
+bool WriteFileAtomically(const QString& path, const QByteArray& bytes) {
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+           CommitWhole(file);
 }
 
 } // namespace zentor

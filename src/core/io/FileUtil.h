@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+class QSaveFile;
+
 namespace zentor {
 
 // True only for an existing regular file (not a folder, FIFO or device).
@@ -15,6 +17,13 @@ bool IsRegularFile(const QString& path);
 // `emptyMeans` (the temporary picture, for the generator).
 qint64 ReadFileBytes(const QString& path, QByteArray& buffer,
                      const QString& emptyMeans = QString());
+
+// Ends a file written beside its target: what is still buffered is written and checked
+// first, then the file takes the target's place. Closing alone would not tell a disk that
+// filled up on the last bytes, and a cut file would stand where the whole one stood.
+bool CommitWhole(QSaveFile& file);
+// Writes `bytes` to `path` that way: the old file stays until the new one is whole.
+bool WriteFileAtomically(const QString& path, const QByteArray& bytes);
 
 // Blanks trimmed at both ends, then cut before the first NUL.
 QString TrimNull(const QString& s);

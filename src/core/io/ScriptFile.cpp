@@ -71,7 +71,7 @@ bool SaveScript(Document& doc, const QString& path) {
         file.cancelWriting();
         return false;
     }
-    if (!file.commit())
+    if (!CommitWhole(file))
         return false;
     doc.ScriptPath = path;
     doc.Dirty = false;

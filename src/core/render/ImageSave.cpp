@@ -1,5 +1,6 @@
 #include "render/ImageSave.h"
 
+#include "io/FileUtil.h"
 #include "model/ProcessContext.h"
 #include "render/PictureCache.h"
 #include "render/PictureLoader.h"
@@ -48,7 +49,7 @@ bool SaveImageAs(const QImage& image, const QString& path, int quality) {
         file.cancelWriting();
         return false;
     }
-    return file.commit();
+    return CommitWhole(file);
 }
 
 QByteArray EncodeJpeg(const QImage& image, int quality) {
