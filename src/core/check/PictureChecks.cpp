@@ -101,7 +101,7 @@ void EachSource(const Document& doc, PictureCache* cache,
 
 void CheckSource(const Source& s, const QString& path, const std::optional<QSize>& size,
                  std::vector<Finding>& out) {
-    Finding f{FindingKind::Missing, s.tab, s.objectKind, s.slot, s.object};
+    Finding f{FindingKind::Missing, s.tab, s.objectKind, s.slot, s.object, {}, {}, -1, {}};
     if (!size) {
         f.message = QStringLiteral("the %1 file %2 cannot be read").arg(s.what, path);
         out.push_back(std::move(f));
@@ -146,8 +146,15 @@ std::vector<UnreadableMedium> UnreadableMedia(const Document& doc, PictureCache*
 
 void CheckEmptyPages(const Document& doc, std::vector<Finding>& out) {
     for (int tab : EmptyPages(doc))
-        out.push_back({FindingKind::Empty, tab, 0, 0, QString(),
-                       QStringLiteral("the page has no picture and nothing on it")});
+        out.push_back({FindingKind::Empty,
+                       tab,
+                       0,
+                       0,
+                       QString(),
+                       QStringLiteral("the page has no picture and nothing on it"),
+                       {},
+                       -1,
+                       {}});
 }
 
 } // namespace zentor
