@@ -145,16 +145,13 @@ std::vector<UnreadableMedium> UnreadableMedia(const Document& doc, PictureCache*
 }
 
 void CheckEmptyPages(const Document& doc, std::vector<Finding>& out) {
-    for (int tab : EmptyPages(doc))
-        out.push_back({FindingKind::Empty,
-                       tab,
-                       0,
-                       0,
-                       QString(),
-                       QStringLiteral("the page has no picture and nothing on it"),
-                       {},
-                       -1,
-                       {}});
+    for (int tab : EmptyPages(doc)) {
+        Finding f;
+        f.kind = FindingKind::Empty;
+        f.tab = tab;
+        f.message = QStringLiteral("the page has no picture and nothing on it");
+        out.push_back(std::move(f));
+    }
 }
 
 } // namespace zentor

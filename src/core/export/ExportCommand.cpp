@@ -9,7 +9,6 @@
 #include "model/Document.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace zentor {
 
@@ -82,9 +81,9 @@ bool WriteExport(ExportKind kind, const Document& doc, const QString& path, cons
                         .arg(doc.Header.FrameWidth)
                         .arg(doc.Header.FrameHeight));
     // Written beside the target and renamed at the end: a failure leaves no file behind.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !CommitWhole(file))
-        return fail(QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
+    QString why;
+    if (!WriteFileAtomically(path, bytes, &why))
+        return fail(QStringLiteral("cannot write %1: %2").arg(path, why));
     return true;
 }
 

@@ -64,10 +64,13 @@ bool CommitWhole(QSaveFile& file) {
     return file.commit();
 }
 
-bool WriteFileAtomically(const QString& path, const QByteArray& bytes) {
+bool WriteFileAtomically(const QString& path, const QByteArray& bytes, QString* error) {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
-           CommitWhole(file);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && CommitWhole(file))
+        return true;
+    if (error)
+        *error = file.errorString();
+    return false;
 }
 
 } // namespace zentor

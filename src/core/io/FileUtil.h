@@ -22,8 +22,9 @@ qint64 ReadFileBytes(const QString& path, QByteArray& buffer,
 // first, then the file takes the target's place. Closing alone would not tell a disk that
 // filled up on the last bytes, and a cut file would stand where the whole one stood.
 bool CommitWhole(QSaveFile& file);
-// Writes `bytes` to `path` that way: the old file stays until the new one is whole.
-bool WriteFileAtomically(const QString& path, const QByteArray& bytes);
+// Writes `bytes` to `path` that way: the old file stays until the new one is whole. On
+// failure, what went wrong goes to `error` when given.
+bool WriteFileAtomically(const QString& path, const QByteArray& bytes, QString* error = nullptr);
 
 // Blanks trimmed at both ends, then cut before the first NUL.
 QString TrimNull(const QString& s);

@@ -4,7 +4,6 @@
 #include "io/RecordCodec.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -63,15 +62,7 @@ QByteArray SerializeScript(Document& doc) {
 }
 
 bool SaveScript(Document& doc, const QString& path) {
-    const QByteArray bytes = SerializeScript(doc);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    if (file.write(bytes) != bytes.size()) {
-        file.cancelWriting();
-        return false;
-    }
-    if (!CommitWhole(file))
+    if (!WriteFileAtomically(path, SerializeScript(doc)))
         return false;
     doc.ScriptPath = path;
     doc.Dirty = false;

@@ -51,12 +51,12 @@ ShapedTextBox ShapeTextBox(const QString& text, double left, double top, double 
                            double height, const QString& fontName, int size, int style, int align,
                            int lineAlign);
 
-// The font text is laid out in: one whole pixel size with its design metrics, which lays
-// out in proportion to any size it is then scaled to.
 // A font's size in pixels at 96 dots to the inch, as texts are laid out and drawn (sizes past
 // the largest drawn are drawn at it).
 double EmPixels(int points);
 
+// The font text is laid out in: one whole pixel size with its design metrics, which lays
+// out in proportion to any size it is then scaled to.
 QFont LayoutFont(const QString& family, int style);
 
 // Page pixels per layout pixel for a size in points.
