@@ -152,7 +152,8 @@ TEST(Check, EachKindIsFoundOnlyWhereItIs) {
         {"a picture, a tab icon and the music that cannot be read",
          [&](Document& d) {
              PlaceImage(d, 1, 3, QRect(400, 300, 80, 40), box.path("gone.png"));
-             d.Tabs[5].Icon = box.path("gone.ico");
+             d.Tabs[5].Icon = box.path("text.ico"); // there, but no picture
+             EXPECT_TRUE(test::WriteAll(d.Tabs[5].Icon.trimNull(), "not a picture"));
              d.Header.BackMusic = box.path("gone.mp3");
          },
          {{K::Missing, 3}, {K::Missing, 5}, {K::Missing, 8}}},

@@ -185,12 +185,16 @@ TEST(ExportVideo, RunsTheEditorsExportPathFromDialogToFile) {
         doc->Header.BackMusic = box.path("noise.mp3");
         ScriptedPrompter prompter;
         prompter.expectFile(true, "Export Video", "*.mp4|*.mp4", box.path("show.MP4"));
-        int steps = 0;
-        const Progress progress = [&](int, int) { return ++steps, !cancel; };
+        int steps = 0, first = 0;
+        const Progress progress = [&](int page, int) {
+            first = first ? first : page;
+            return ++steps, !cancel;
+        };
         QString written;
         EXPECT_EQ(RunExport(ExportKind::Video, *doc, prompter, res, box.ctx, progress, &written),
                   !cancel);
-        EXPECT_GT(steps, 0); // the progress dialog saw the run
+        EXPECT_GT(steps, 0); // the progress dialog saw the run, from page 1
+        EXPECT_EQ(first, 1);
         EXPECT_EQ(written, cancel ? QString() : box.path("show.MP4"));
         // A cancelled run leaves nothing beside the target either.
         EXPECT_EQ(QDir(box.dir.path()).entryList({"*.mp4", "*.MP4", "*.mp4.*"}, QDir::Files),
