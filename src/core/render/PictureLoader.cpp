@@ -44,6 +44,21 @@ void PickLargestIcon(QImageReader& reader) {
     reader.jumpToImage(best);
 }
 
+// The size a JPEG is decoded at on the way to `wanted`: its own, halved while that divides
+// evenly and stays no smaller. libjpeg-turbo halves with fast vector code, but other fractions
+// with plain code slower than decoding whole; the rest is left to the smooth scaler.
+QSize JpegDecodeSize(QSize natural, QSize wanted) {
+    QSize size = natural;
+    for (int i = 0; i < 3; ++i) {
+        const QSize half = size / 2;
+        if (size.width() % 2 || size.height() % 2 || half.width() < wanted.width() ||
+            half.height() < wanted.height())
+            break;
+        size = half;
+    }
+    return size;
+}
+
 // Decodes what the reader holds as LoadPicture describes.
 QImage Decode(QImageReader& reader, QSize drawSize) {
     Prepare(reader);
@@ -60,7 +75,7 @@ QImage Decode(QImageReader& reader, QSize drawSize) {
         decode = QSize(std::min(drawSize.width(), natural.width()),
                        std::min(drawSize.height(), natural.height()));
         if (decode != natural)
-            reader.setScaledSize(decode);
+            reader.setScaledSize(reader.format() == "jpeg" ? JpegDecodeSize(natural, decode) : decode);
     }
     QImage img = reader.read();
     if (img.isNull() || !SaneSize(img.size()))
