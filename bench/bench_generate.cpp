@@ -34,7 +34,7 @@ void BM_GeneratePackage(benchmark::State& state) {
     const QString out = s.ws.path(QStringLiteral("cv.exe"));
     for (auto _ : state) {
         // A fresh renderer each time: nothing decoded in an earlier round is reused.
-        RenderedPictures pictures(s.ws.ctx, s.res);
+        RenderedPictures pictures(s.res);
         ResumeGenerator gen(s.ws.ctx, prompter, pictures);
         gen.setPlayer(QByteArray(int(s.ws.ctx.PlayerStubSize), '\0'));
         gen.setParallel(state.range(0) != 0);
@@ -63,10 +63,11 @@ BENCHMARK(BM_RenderPage)->Arg(1)->Arg(8)->ArgName("page")->Unit(benchmark::kMill
 
 void BM_ResampleBackground(benchmark::State& state) {
     Stress& s = Workload();
-    RenderedPictures pictures(s.ws.ctx, s.res);
+    RenderedPictures pictures(s.res);
     for (auto _ : state)
         benchmark::DoNotOptimize(
-            pictures.resample(s.doc->Header.BackPicture.trimNull(), 1024, 768));
+            pictures.resample(Package::BackPictureEntry, s.doc->Header.BackPicture.trimNull(),
+                              Package::BackPictureWidth, Package::BackPictureHeight));
 }
 BENCHMARK(BM_ResampleBackground)->Unit(benchmark::kMillisecond);
 

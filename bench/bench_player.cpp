@@ -28,7 +28,7 @@ QString StressPackage(int asRun) {
         return path;
     Stress& s = Workload();
     bench::QuietPrompter prompter;
-    RenderedPictures pictures(s.ws.ctx, s.res);
+    RenderedPictures pictures(s.res);
     ResumeGenerator gen(s.ws.ctx, prompter, pictures);
     auto doc = std::make_unique<Document>(*s.doc);
     doc->Header.ShowAsRun = asRun;

@@ -112,7 +112,7 @@ int runGenerate(const Args& args, const ProcessContext& ctx) {
     prompter.warnings += WarnUnreadablePictures(*doc);
 
     const ResImages res = ResImages::load();
-    RenderedPictures rendered(ctx, res);
+    RenderedPictures rendered(res);
     ResumeGenerator gen(ctx, prompter, rendered);
     gen.setParallel(true);
     if (selfRun)

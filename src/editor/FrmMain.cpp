@@ -86,7 +86,7 @@ FrmMain::FrmMain(Document& doc, const ProcessContext& ctx, Prompter& prompter, c
 
     // Generation renders with the page painter, from the pictures the workspace has
     // decoded; the self-running kind starts with the player carried in the program.
-    packagePictures_ = std::make_unique<RenderedPictures>(ctx_, res_, &pictures_);
+    packagePictures_ = std::make_unique<RenderedPictures>(res_, &pictures_);
     generator_ = std::make_unique<ResumeGenerator>(ctx_, prompter_, *packagePictures_);
     generator_->setParallel(true);
     editor_.setGenerator([this, check](bool selfRun, const QString& path) {

@@ -418,7 +418,7 @@ protected:
     Sandbox box;
     std::unique_ptr<Document> doc = box.newDocument();
     ResImages res = ResImages::load();
-    RenderedPictures pictures{box.ctx, res};
+    RenderedPictures pictures{res};
 };
 
 TEST_F(GenerateRenderedTest, PicturesAreJpegsOfQuality95AtTheirSizes) {

@@ -26,7 +26,7 @@ QByteArray PictureBytes(int width, int height, QRgb colour, const char* format) 
     return out;
 }
 
-std::optional<QByteArray> FakePictures::resample(const QString& path, int width, int height) {
+std::optional<QByteArray> FakePictures::resample(int, const QString& path, int width, int height) {
     ++calls;
     QByteArray bytes;
     if (ReadFileBytes(path, bytes) == 0)

@@ -17,7 +17,8 @@ namespace zentor::test {
 // colour comes from the page number. Unreadable sources yield nothing.
 class FakePictures : public PackagePictures {
 public:
-    std::optional<QByteArray> resample(const QString& path, int width, int height) override;
+    std::optional<QByteArray> resample(int entry, const QString& path, int width,
+                                       int height) override;
     std::optional<QByteArray> renderPage(const Document& doc, int page) override;
     bool reentrant() const override { return true; }
     std::atomic<int> calls{0};

@@ -74,7 +74,9 @@ bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResIm
                      const PackageWatch& watch, PictureCache* pictures) {
     QStringList said;
     CollectingPrompter prompter(said);
-    RenderedPictures rendered(ctx, res, pictures);
+    RenderedPictures rendered(res, pictures);
+    if (watch.resampled)
+        rendered.setResampledTaken(watch.resampled);
     if (ShowPictures::EmptyPages* judged = watch.judged) {
         *judged = {};
         const QSize frame = FrameSize(doc);
@@ -86,6 +88,9 @@ bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResIm
     if (watch.head)
         generator.setHeadWritten(
             [&watch](const QByteArray& head) { watch.head(ParsePackage(head, PackageForm::Qdv)); });
+    if (watch.blob)
+        generator.setBlobWritten(watch.blob);
+    generator.setProgress(watch.progress);
     generator.setParallel(true);
     Document copy = doc; // generating tidies the document it writes
     QByteArray bytes;

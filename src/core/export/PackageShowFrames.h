@@ -1,6 +1,8 @@
 #pragma once
 
 #include "export/ShowFrames.h"
+#include "generate/RenderedPictures.h"
+#include "model/Progress.h"
 #include "show/ShowModel.h"
 #include "show/ShowPictures.h"
 
@@ -43,6 +45,13 @@ struct PackageWatch {
     ShowPictures::EmptyPages* judged = nullptr;
     // The package up to its pages (all the home page is drawn from), while pages are drawn.
     std::function<void(PackageContents head)> head;
+    // Each blob as it is written, in the package's order (see ResumeGenerator).
+    std::function<void(int entry, const QByteArray& bytes)> blob;
+    // Told before each page is written (page n of 8); false cancels.
+    Progress progress;
+    // Given the pictures generating resamples (user icon, background) instead of their
+    // compressed bytes, which the package then lacks: for an export that draws them itself.
+    RenderedPictures::ResampledTaken resampled;
 };
 
 // The package a document generates, made in memory: what the recipient's player will show.

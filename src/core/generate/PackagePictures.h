@@ -16,8 +16,10 @@ class PackagePictures {
 public:
     virtual ~PackagePictures() = default;
 
-    // The picture at `path` (already resolved) stretched to exactly width x height.
-    virtual std::optional<QByteArray> resample(const QString& path, int width, int height) = 0;
+    // The picture at `path` (already resolved) stretched to exactly width x height, for the
+    // package's entry `entry`.
+    virtual std::optional<QByteArray> resample(int entry, const QString& path, int width,
+                                               int height) = 0;
 
     // Page 1..8 of the document, as the page compositor renders it.
     virtual std::optional<QByteArray> renderPage(const Document& doc, int page) = 0;

@@ -1,26 +1,24 @@
 #include "generate/RenderedPictures.h"
 
-#include "io/FileUtil.h"
 #include "render/ImageSave.h"
 #include "render/PageCompositor.h"
 
-#include <QFile>
-
 namespace zentor {
 
-RenderedPictures::RenderedPictures(const ProcessContext& ctx, const ResImages& res,
-                                   PictureCache* pictures)
-    : ctx_(ctx), res_(res), cache_(pictures ? *pictures : own_) {}
+RenderedPictures::RenderedPictures(const ResImages& res, PictureCache* pictures)
+    : res_(res), cache_(pictures ? *pictures : own_) {}
 
-std::optional<QByteArray> RenderedPictures::resample(const QString& path, int width, int height) {
-    ProcessContext own = ctx_;
-    own.TempImagePath = ctx_.WorkFolder + QStringLiteral("resample-%1.jpg").arg(serial_++);
-    if (!ResizeToTemp(path, width, height, own, &cache_))
+std::optional<QByteArray> RenderedPictures::resample(int entry, const QString& path, int width,
+                                                     int height) {
+    const QImage picture = ResampledPicture(path, width, height, &cache_);
+    if (picture.isNull())
         return std::nullopt;
-    QByteArray bytes;
-    const bool read = ReadFileBytes(own.TempImagePath, bytes) > 0;
-    QFile::remove(own.TempImagePath);
-    return read ? std::optional<QByteArray>(bytes) : std::nullopt;
+    if (resampledTaken_) {
+        resampledTaken_(entry, picture);
+        return QByteArray();
+    }
+    QByteArray jpeg = EncodeJpeg(picture, 95);
+    return jpeg.isEmpty() ? std::nullopt : std::optional<QByteArray>(std::move(jpeg));
 }
 
 std::optional<QByteArray> RenderedPictures::renderPage(const Document& doc, int page) {

@@ -93,7 +93,11 @@ private:
             position_ - 1 + gen_.FileBytes.size() > gen_.positionLimit_)
             return false;
         e.Length = int32_t(n);
-        return write(gen_.FileBytes);
+        if (!write(gen_.FileBytes))
+            return false;
+        if (memory_ && gen_.blobWritten_)
+            gen_.blobWritten_(entry, n > 0 ? gen_.FileBytes : QByteArray());
+        return true;
     }
 
     // A resampled picture or a page goes through the temporary picture, read back whole.
@@ -150,14 +154,16 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
     // The pages are drawn from a copy, so workers never read what the steps below tidy.
     snapshot_ = std::make_unique<Document>(doc_);
     const Document& doc = *snapshot_;
-    const auto resample = [&](const QString& field, int w, int h) {
+    const auto resample = [&](int entry, const QString& field, int w, int h) {
         const QString source = ResolvePath(doc.ScriptPath, field);
-        jobs.push_back([&pictures, source, w, h] { return pictures.resample(source, w, h); });
+        jobs.push_back(
+            [&pictures, entry, source, w, h] { return pictures.resample(entry, source, w, h); });
     };
     if (!userIcon.isEmpty())
-        resample(userIcon, Package::UserIconSize, Package::UserIconSize);
+        resample(Package::UserIconEntry, userIcon, Package::UserIconSize, Package::UserIconSize);
     if (!backPicture.isEmpty())
-        resample(backPicture, Package::BackPictureWidth, Package::BackPictureHeight);
+        resample(Package::BackPictureEntry, backPicture, Package::BackPictureWidth,
+                 Package::BackPictureHeight);
     for (int page = 1; page <= Package::PageCount; ++page)
         jobs.push_back([&pictures, &doc, page] { return pictures.renderPage(doc, page); });
     const int threads =

@@ -58,6 +58,11 @@ public:
     void setHeadWritten(std::function<void(const QByteArray& head)> seen) {
         headWritten_ = std::move(seen);
     }
+    // Shown, when the package is made in memory, each blob as it is written, in the
+    // package's order: its entry and its bytes (empty for a source that could not be read).
+    void setBlobWritten(std::function<void(int entry, const QByteArray& bytes)> seen) {
+        blobWritten_ = std::move(seen);
+    }
 
     // The extension rule: `path` gets ".exe" or ".qdv" unless its last four characters are
     // exactly that (case matters: "cv.EXE" becomes "cv.EXE.exe").
@@ -84,6 +89,7 @@ private:
     qint64 positionLimit_ = std::numeric_limits<int32_t>::max();
     Progress progress_;
     std::function<void(const QByteArray&)> headWritten_;
+    std::function<void(int, const QByteArray&)> blobWritten_;
 };
 
 } // namespace zentor

@@ -1,7 +1,6 @@
 #include "render/ImageSave.h"
 
 #include "io/FileUtil.h"
-#include "model/ProcessContext.h"
 #include "render/PictureCache.h"
 #include "render/PictureLoader.h"
 
@@ -61,20 +60,18 @@ QByteArray EncodeJpeg(const QImage& image, int quality) {
     return bytes;
 }
 
-bool ResizeToTemp(const QString& sourcePath, int width, int height, const ProcessContext& ctx,
-                  PictureCache* cache) {
+QImage ResampledPicture(const QString& sourcePath, int width, int height, PictureCache* cache) {
     if (width <= 0 || height <= 0 || qint64(width) * height > MaxPicturePixels)
-        return false;
+        return QImage();
     QImage canvas(width, height, QImage::Format_ARGB32_Premultiplied);
     if (canvas.isNull())
-        return false;
+        return QImage();
     canvas.fill(Qt::transparent);
     {
         QPainter p(&canvas);
         DrawPictureFile(p, sourcePath.trimmed(), canvas.rect(), cache);
     }
-    ctx.ensureWorkFolder();
-    return SaveImageAs(canvas, ctx.TempImagePath, 95);
+    return canvas.convertToFormat(QImage::Format_RGB32);
 }
 
 } // namespace zentor

@@ -7,7 +7,6 @@
 namespace zentor {
 
 class PictureCache;
-struct ProcessContext;
 
 // Saves by the ending of the path, tested exactly on its last four characters lower-cased
 // after trimming blanks: ".jpg" writes a JPEG of `quality` (0..100), ".png" a PNG; any
@@ -21,11 +20,11 @@ QString SaveFormatFor(const QString& path);
 // The image as JPEG bytes of the given quality (empty on failure).
 QByteArray EncodeJpeg(const QImage& image, int quality);
 
-// Stretches the picture at `sourcePath` (aspect not kept, smooth) to width x height and
-// writes it as a JPEG of quality 95 to the temporary picture. A missing or unreadable
-// source still writes a picture of that size, all black. Returns whether it was written.
-// The source is decoded through `cache` when given.
-bool ResizeToTemp(const QString& sourcePath, int width, int height, const ProcessContext& ctx,
-                  PictureCache* cache = nullptr);
+// The picture at `sourcePath` (blanks trimmed) stretched, aspect not kept, smoothly, to
+// width x height, and flattened as a JPEG flattens it: a missing or unreadable source gives
+// a picture of that size all black. Null when no picture of that size can be made. The
+// source is decoded through `cache` when given.
+QImage ResampledPicture(const QString& sourcePath, int width, int height,
+                        PictureCache* cache = nullptr);
 
 } // namespace zentor

@@ -75,19 +75,13 @@ QImage Decode(QImageReader& reader, QSize drawSize) {
         decode = QSize(std::min(drawSize.width(), natural.width()),
                        std::min(drawSize.height(), natural.height()));
         if (decode != natural)
-            reader.setScaledSize(reader.format() == "jpeg" ? JpegDecodeSize(natural, decode) : decode);
+            reader.setScaledSize(reader.format() == "jpeg" ? JpegDecodeSize(natural, decode)
+                                                           : decode);
     }
-    QImage img = reader.read();
+    const QImage img = reader.read();
     if (img.isNull() || !SaneSize(img.size()))
         return QImage();
-    // Formats that cannot decode scaled are reduced here, averaging, not sampling.
-    if (decode.isValid() && img.size() != decode)
-        img = img.scaled(decode, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (img.format() != QImage::Format_ARGB32_Premultiplied && img.hasAlphaChannel())
-        img.convertTo(QImage::Format_ARGB32_Premultiplied);
-    else if (!img.hasAlphaChannel() && img.format() != QImage::Format_RGB32)
-        img.convertTo(QImage::Format_RGB32);
-    return img;
+    return ReduceToDraw(img, decode);
 }
 
 } // namespace
@@ -113,6 +107,22 @@ QImage LoadPicture(const QString& path, QSize drawSize) {
         return QImage();
     QImageReader reader(path);
     return Decode(reader, drawSize);
+}
+
+QImage ReduceToDraw(const QImage& picture, QSize drawSize) {
+    QImage img = picture;
+    // Never below the drawn size in either direction, never above the picture itself;
+    // what the decoder could not reduce is reduced here, averaging, not sampling.
+    if (drawSize.width() > 0 && drawSize.height() > 0) {
+        const QSize reduced = drawSize.boundedTo(img.size());
+        if (img.size() != reduced)
+            img = img.scaled(reduced, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    if (img.format() != QImage::Format_ARGB32_Premultiplied && img.hasAlphaChannel())
+        img.convertTo(QImage::Format_ARGB32_Premultiplied);
+    else if (!img.hasAlphaChannel() && img.format() != QImage::Format_RGB32)
+        img.convertTo(QImage::Format_RGB32);
+    return img;
 }
 
 QImage LoadPictureData(const QByteArray& bytes, QSize drawSize) {

@@ -24,4 +24,7 @@ QImage LoadPicture(const QString& path, QSize drawSize = QSize());
 // The same for a picture held in memory (a package's blob).
 QImage LoadPictureData(const QByteArray& bytes, QSize drawSize = QSize());
 
+// A picture already decoded, reduced as the loaders reduce what they decode for drawSize.
+QImage ReduceToDraw(const QImage& picture, QSize drawSize);
+
 } // namespace zentor

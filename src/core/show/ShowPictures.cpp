@@ -77,7 +77,9 @@ const HomePictures& ShowPictures::homePictures() const {
     std::call_once(homeDecoded_, [this] {
         // A carried picture that cannot be decoded gives way to the built-in one.
         const auto carried = [this](int entry, QSize size, const QImage& builtIn) {
-            const QImage img = LoadPictureData(blobs_[size_t(entry)], size);
+            const QImage& given = given_[size_t(entry)];
+            const QImage img = given.isNull() ? LoadPictureData(blobs_[size_t(entry)], size)
+                                              : ReduceToDraw(given, size);
             return img.isNull() ? builtIn : img;
         };
         home_.background =

@@ -37,6 +37,11 @@ public:
     ShowPictures(const PackageContents& package, const ResImages& res,
                  const QByteArray& defaultBackground, const EmptyPages& judged);
 
+    // The picture of one of the package's entries, given already decoded (by an export that
+    // made the package and left that entry empty): the home page is painted from it. Only
+    // before the home page is first painted.
+    void givePicture(int entry, const QImage& picture) { given_[size_t(entry)] = picture; }
+
     // The package's frame (800 x 600 when its header's is not a sane one).
     QSize frame() const { return frame_; }
     // The colour around the frame when it is shown in a window of another shape.
@@ -65,6 +70,7 @@ private:
     QRgb backColor_ = 0xFF000000u;
     QByteArray data_; // the package's bytes, which blobs_ look into
     std::array<QByteArray, Package::EntryCount> blobs_;
+    std::array<QImage, Package::EntryCount> given_;
     QByteArray defaultBackground_;
     std::array<QString, 9> tabNames_;
     QString person_;
