@@ -50,7 +50,7 @@ void BM_GenerateQdv(benchmark::State& state) {
     const double cpu = ProcessCpuMs();
     const double faults = MinorFaults();
     for (auto _ : state) {
-        RenderedPictures pictures(s.ws.ctx, s.res, decoded);
+        RenderedPictures pictures(s.res, decoded);
         ResumeGenerator gen(s.ws.ctx, prompter, pictures);
         gen.setParallel(true);
         auto doc = std::make_unique<Document>(*s.doc);

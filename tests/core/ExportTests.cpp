@@ -7,6 +7,7 @@
 #include "export/PdfExport.h"
 #include "export/PdfJoin.h"
 #include "export/WebPageExport.h"
+#include "export/WebPageStream.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
 #include "io/ScriptFile.h"
@@ -27,6 +28,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
 
 using namespace zentor;
 
@@ -304,20 +306,25 @@ TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
     QString error;
     ShowPictures::EmptyPages judged;
     QImage homeFromHead;
-    PackageWatch watch{&judged, [&](PackageContents head) {
-                           homeFromHead =
-                               ShowPictures(head, res, background, {}).picture(show::HomePicture);
-                       }};
+    std::map<int, QByteArray> blobs;
+    PackageWatch watch;
+    watch.judged = &judged;
+    watch.head = [&](PackageContents head) {
+        homeFromHead = ShowPictures(head, res, background, {}).picture(show::HomePicture);
+    };
+    watch.blob = [&](int entry, const QByteArray& bytes) { blobs[entry] = bytes; };
     ASSERT_TRUE(DocumentPackage(*pr.doc, pr.box.ctx, res, package, warnings, error, watch))
         << error.toStdString();
 
     test::ScriptedPrompter prompter;
-    RenderedPictures rendered(pr.box.ctx, res);
+    RenderedPictures rendered(res);
     ResumeGenerator generator(pr.box.ctx, prompter, rendered);
     Document copy = *pr.doc;
     ASSERT_EQ(generator.writePackage(copy, pr.box.path("cv.qdv"), false),
               ResumeGenerator::Outcome::Written);
     EXPECT_EQ(package.Data, test::ReadAll(pr.box.path("cv.qdv")));
+    for (int entry = 0; entry < Package::EntryCount; ++entry)
+        EXPECT_EQ(blobs[entry], package.blobView(entry)) << entry;
 
     const ShowPictures decoded(package, res, background);
     EXPECT_EQ(ShowPictures(package, res, background, judged).showOrder(), decoded.showOrder());

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QByteArrayView>
 #include <QString>
 
 #include "model/Progress.h"
@@ -22,11 +21,5 @@ class ResImages;
 // given.
 QByteArray RenderWebPage(const Document& doc, const ResImages& res, const ProcessContext& ctx,
                          const Progress& progress = {}, PictureCache* decoded = nullptr);
-
-// Writes `bytes` in base64 at `out` (four digits for every three bytes, the last group
-// padded with '='); returns the end of what it wrote.
-char* Base64Into(char* out, QByteArrayView bytes);
-// The same appended to `out`.
-void AppendBase64(QByteArray& out, QByteArrayView bytes);
 
 } // namespace zentor

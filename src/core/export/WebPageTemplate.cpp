@@ -32,13 +32,18 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
 <body data-page="0">
 <div id="stage" role="main"></div>
 <audio id="music" preload="auto"></audio>
-<script type="application/json" id="show">@DATA@</script>
+@URIS@<script type="application/json" id="show">@DATA@</script>
 <script>
 "use strict";
 (function () {
   const show = JSON.parse(document.getElementById("show").textContent);
   const stage = document.getElementById("stage");
   const music = document.getElementById("music");
+  // Pictures and music are data URIs, each the text of an element of its own.
+  function uri(id) {
+    const e = document.getElementById(id);
+    return e ? e.textContent : "";
+  }
   stage.style.width = show.width + "px";
   stage.style.height = show.height + "px";
 
@@ -57,7 +62,7 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
     s.setAttribute("aria-label", label);
     s.style.transitionDuration = show.fadeMs + "ms";
     const img = el("img", "page");
-    img.src = page.picture; img.alt = label; img.draggable = false;
+    img.src = uri(page.picture); img.alt = label; img.draggable = false;
     s.appendChild(img);
     for (const o of page.images || []) {
       const p = el("span", "object", o);
@@ -131,7 +136,7 @@ html, body { margin: 0; height: 100%; background: #000; overflow: hidden; }
   function startMusic() {
     if (musicStarted || !show.music) return;
     musicStarted = true;
-    music.src = show.music; music.volume = show.volume; music.loop = show.loop;
+    music.src = uri(show.music); music.volume = show.volume; music.loop = show.loop;
     const played = music.play();
     if (played) played.catch(function () { musicStarted = false; });
   }

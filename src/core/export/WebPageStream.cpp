@@ -1,0 +1,94 @@
+#include "export/WebPageStream.h"
+
+#include <array>
+#include <cstring>
+
+namespace zentor {
+
+char* Base64Into(char* out, QByteArrayView bytes) {
+    static constexpr char Digits[] =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    // Two digits at a time: twelve bits index a pair.
+    static const auto Pairs = [] {
+        std::array<std::array<char, 2>, 4096> pairs{};
+        for (size_t i = 0; i < pairs.size(); ++i)
+            pairs[i] = {Digits[i >> 6], Digits[i & 63]};
+        return pairs;
+    }();
+    const auto* b = reinterpret_cast<const uchar*>(bytes.data());
+    const qsizetype whole = bytes.size() / 3 * 3;
+    for (qsizetype i = 0; i < whole; i += 3, out += 4) {
+        const uint v = uint(b[i]) << 16 | uint(b[i + 1]) << 8 | b[i + 2];
+        std::memcpy(out, Pairs[v >> 12].data(), 2);
+        std::memcpy(out + 2, Pairs[v & 0xFFF].data(), 2);
+    }
+    if (const qsizetype rest = bytes.size() - whole) {
+        const uint v = uint(b[whole]) << 16 | (rest == 2 ? uint(b[whole + 1]) << 8 : 0u);
+        out[0] = Digits[v >> 18];
+        out[1] = Digits[(v >> 12) & 63];
+        out[2] = rest == 2 ? Digits[(v >> 6) & 63] : '=';
+        out[3] = '=';
+        out += 4;
+    }
+    return out;
+}
+
+void AppendBase64(QByteArray& out, QByteArrayView bytes) {
+    const qsizetype start = out.size();
+    out.resize(start + (bytes.size() + 2) / 3 * 4);
+    Base64Into(out.data() + start, bytes);
+}
+
+WebPageStream::WebPageStream(QByteArray start)
+    : out_(std::move(start)), thread_([this] { run(); }) {}
+
+WebPageStream::~WebPageStream() {
+    {
+        std::lock_guard lock(mutex_);
+        closing_ = dropping_ = true;
+    }
+    wake_.notify_one();
+    thread_.join();
+}
+
+void WebPageStream::add(QByteArray id, QByteArray mime, QByteArray bytes) {
+    {
+        std::lock_guard lock(mutex_);
+        queue_.push_back({std::move(id), std::move(mime), std::move(bytes)});
+    }
+    wake_.notify_one();
+}
+
+QByteArray WebPageStream::finish(QByteArrayView rest) {
+    {
+        std::lock_guard lock(mutex_);
+        closing_ = true;
+    }
+    wake_.notify_one();
+    thread_.join();
+    out_ += rest;
+    return std::move(out_);
+}
+
+void WebPageStream::run() {
+    for (;;) {
+        Item item;
+        {
+            std::unique_lock lock(mutex_);
+            wake_.wait(lock, [this] { return closing_ || !queue_.empty(); });
+            if (dropping_ || queue_.empty())
+                return;
+            item = std::move(queue_.front());
+            queue_.pop_front();
+        }
+        out_ += "<script type=\"text/plain\" id=\"";
+        out_ += item.id;
+        out_ += "\">data:";
+        out_ += item.mime;
+        out_ += ";base64,";
+        AppendBase64(out_, item.bytes);
+        out_ += "</script>\n";
+    }
+}
+
+} // namespace zentor
