@@ -85,9 +85,14 @@ bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResIm
         });
     }
     ResumeGenerator generator(ctx, prompter, rendered);
-    if (watch.head)
-        generator.setHeadWritten(
-            [&watch](const QByteArray& head) { watch.head(ParsePackage(head, PackageForm::Qdv)); });
+    PackageContents head;
+    if (watch.head || watch.headOnly)
+        generator.setHeadWritten([&](const QByteArray& bytes) {
+            head = ParsePackage(bytes, PackageForm::Qdv);
+            if (watch.head)
+                watch.head(head);
+        });
+    generator.setHeadOnly(watch.headOnly);
     if (watch.blob)
         generator.setBlobWritten(watch.blob);
     generator.setProgress(watch.progress);
@@ -97,7 +102,8 @@ bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResIm
     const bool written =
         generator.writePackageData(copy, bytes) == ResumeGenerator::Outcome::Written;
     if (written)
-        package = ParsePackage(std::move(bytes), PackageForm::Qdv);
+        package =
+            watch.headOnly ? std::move(head) : ParsePackage(std::move(bytes), PackageForm::Qdv);
     if (!written || !package.Complete) {
         error =
             said.isEmpty() ? QStringLiteral("cannot make the résumé's package") : said.join(' ');

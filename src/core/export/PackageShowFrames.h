@@ -52,6 +52,9 @@ struct PackageWatch {
     // Given the pictures generating resamples (user icon, background) instead of their
     // compressed bytes, which the package then lacks: for an export that draws them itself.
     RenderedPictures::ResampledTaken resampled;
+    // Only the package's head is kept (see ResumeGenerator::setHeadOnly): what
+    // DocumentPackage gives is that head, as `head` is shown it.
+    bool headOnly = false;
 };
 
 // The package a document generates, made in memory: what the recipient's player will show.

@@ -198,15 +198,19 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
         home = std::make_unique<SpareResult<QByteArray>>(
             [paintHome, head = std::move(head)] { return paintHome(head); });
     };
-    watch.blob = [&stream](int entry, const QByteArray& bytes) {
+    bool music = false;
+    watch.blob = [&](int entry, const QByteArray& bytes) {
         if (entry >= show::PageEntryOfTab(1) && entry <= show::PageEntryOfTab(SlideShowTab))
             stream.add(UriId(entry), "image/jpeg", bytes);
-        else if (entry == show::Package::MusicEntry && !bytes.isEmpty())
+        else if (entry == show::Package::MusicEntry && !bytes.isEmpty()) {
             stream.add(UriId(entry), "audio/mpeg", bytes);
+            music = true;
+        }
     };
     watch.resampled = [&resampled](int entry, const QImage& picture) {
         resampled[size_t(entry)] = picture;
     };
+    watch.headOnly = true;
     watch.progress = [&progress](int page, int) { return GoOn(progress, page, SlideShowTab + 1); };
     PackageContents package;
     QStringList warnings;
@@ -220,7 +224,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     QJsonObject show = WebShowNumbers(doc, pictures.showOrder());
     show.insert("title", PersonName(doc));
     show.insert("home", HomeLayer(doc, pictures));
-    if (!package.blobView(show::Package::MusicEntry).isEmpty())
+    if (music)
         show.insert("music", QString::fromLatin1(UriId(show::Package::MusicEntry)));
     stream.add(HomeUriId, "image/jpeg", home ? home->get() : paintHome(package));
 

@@ -59,6 +59,10 @@ public:
 
 private:
     bool write(const QByteArray& bytes) {
+        if (pastHead_) {
+            position_ += bytes.size();
+            return true;
+        }
         if (out_.write(bytes) != bytes.size())
             return false;
         position_ += bytes.size();
@@ -124,6 +128,7 @@ private:
     std::unique_ptr<Document> snapshot_;
     std::unique_ptr<PictureJobs> jobs_; // after snapshot_: its workers read the copy
     bool cancelled_ = false;
+    bool pastHead_ = false; // the head-only package keeps nothing more
 };
 
 bool ResumeGenerator::Writer::run(bool selfRun) {
@@ -187,6 +192,7 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
         head.replace(tableAt, Package::TableSize, EncodePackTable(gen_.Entries));
         gen_.headWritten_(head);
     }
+    pastHead_ = memory_ && gen_.headOnly_;
     const QString music = tidyPath(doc_.Header.BackMusic);
     if (!music.isEmpty() &&
         !append(Package::MusicEntry, PackMusic, ResolvePath(doc_.ScriptPath, music)))

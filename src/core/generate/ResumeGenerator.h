@@ -63,6 +63,10 @@ public:
     void setBlobWritten(std::function<void(int entry, const QByteArray& bytes)> seen) {
         blobWritten_ = std::move(seen);
     }
+    // Made in memory, the package may keep no more than its head: what follows (the music
+    // and the pages) is only shown to blobWritten, for a program that takes it from there.
+    // The entry table still gives every blob's place and length.
+    void setHeadOnly(bool on) { headOnly_ = on; }
 
     // The extension rule: `path` gets ".exe" or ".qdv" unless its last four characters are
     // exactly that (case matters: "cv.EXE" becomes "cv.EXE.exe").
@@ -90,6 +94,7 @@ private:
     Progress progress_;
     std::function<void(const QByteArray&)> headWritten_;
     std::function<void(int, const QByteArray&)> blobWritten_;
+    bool headOnly_ = false;
 };
 
 } // namespace zentor

@@ -76,18 +76,22 @@ ShowPictures::ShowPictures(const PackageContents& package, const ResImages& res,
 const HomePictures& ShowPictures::homePictures() const {
     std::call_once(homeDecoded_, [this] {
         // A carried picture that cannot be decoded gives way to the built-in one.
-        const auto carried = [this](int entry, QSize size, const QImage& builtIn) {
+        const auto carried = [this](int entry, QSize size) {
             const QImage& given = given_[size_t(entry)];
-            const QImage img = given.isNull() ? LoadPictureData(blobs_[size_t(entry)], size)
-                                              : ReduceToDraw(given, size);
+            return given.isNull() ? LoadPictureData(blobs_[size_t(entry)], size)
+                                  : ReduceToDraw(given, size);
+        };
+        const auto orBuiltIn = [](const QImage& img, const QImage& builtIn) {
             return img.isNull() ? builtIn : img;
         };
-        home_.background =
-            carried(Package::BackPictureEntry, frame_, LoadPictureData(defaultBackground_, frame_));
+        home_.background = carried(Package::BackPictureEntry, frame_);
+        if (home_.background.isNull())
+            home_.background = LoadPictureData(defaultBackground_, frame_);
         home_.icons[1] = res_.image(1);
         for (int tab = Package::FirstTabIconEntry; tab <= Package::LastTabIconEntry; ++tab)
-            home_.icons[size_t(tab)] = carried(tab, QSize(80, 80), res_.image(tab));
-        home_.userIcon = carried(Package::UserIconEntry, QSize(128, 128), res_.image(ResLogo));
+            home_.icons[size_t(tab)] = orBuiltIn(carried(tab, QSize(80, 80)), res_.image(tab));
+        home_.userIcon =
+            orBuiltIn(carried(Package::UserIconEntry, QSize(128, 128)), res_.image(ResLogo));
     });
     return home_;
 }
