@@ -7,7 +7,7 @@
 #include "export/PdfExport.h"
 #include "export/PdfJoin.h"
 #include "export/WebPageExport.h"
-#include "export/WebPageStream.h"
+#include "export/Base64.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
 #include "io/ScriptFile.h"
@@ -348,11 +348,13 @@ TEST(ExportWebPage, FromTheEditorDrawsWhatTheWorkspaceDecoded) {
     EXPECT_EQ(shown.count(), decoded + 1); // the background at the package's own size
 }
 
-TEST(ExportWebPage, Base64OfEveryTailLength) {
-    const QByteArray bytes("\x00\xff\x10\x80\x7f\xfe\x01", 7);
+// Every length up to 300 (sixteen at a time and the tails after), every byte value.
+TEST(ExportWebPage, Base64OfEveryLength) {
+    QByteArray bytes;
+    for (int i = 0; i < 300; ++i)
+        bytes += char(i * 97 + i / 256);
     for (qsizetype n = 0; n <= bytes.size(); ++n) {
         QByteArray out("uri,");
-        out.reserve(64);
         AppendBase64(out, QByteArrayView(bytes).first(n));
         EXPECT_EQ(out, "uri," + bytes.first(n).toBase64()) << n << " bytes";
     }

@@ -1,8 +1,9 @@
 #include "export/WebPageStream.h"
 
-#include <array>
+#include "export/Base64.h"
+
+#include <algorithm>
 #include <cstdint>
-#include <cstring>
 
 #ifdef __linux__
 #include <sys/mman.h>
@@ -29,40 +30,6 @@ void MakeRoom(QByteArray& out, qsizetype size) {
 }
 
 } // namespace
-
-char* Base64Into(char* out, QByteArrayView bytes) {
-    static constexpr char Digits[] =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    // Two digits at a time: twelve bits index a pair.
-    static const auto Pairs = [] {
-        std::array<std::array<char, 2>, 4096> pairs{};
-        for (size_t i = 0; i < pairs.size(); ++i)
-            pairs[i] = {Digits[i >> 6], Digits[i & 63]};
-        return pairs;
-    }();
-    const auto* b = reinterpret_cast<const uchar*>(bytes.data());
-    const qsizetype whole = bytes.size() / 3 * 3;
-    for (qsizetype i = 0; i < whole; i += 3, out += 4) {
-        const uint v = uint(b[i]) << 16 | uint(b[i + 1]) << 8 | b[i + 2];
-        std::memcpy(out, Pairs[v >> 12].data(), 2);
-        std::memcpy(out + 2, Pairs[v & 0xFFF].data(), 2);
-    }
-    if (const qsizetype rest = bytes.size() - whole) {
-        const uint v = uint(b[whole]) << 16 | (rest == 2 ? uint(b[whole + 1]) << 8 : 0u);
-        out[0] = Digits[v >> 18];
-        out[1] = Digits[(v >> 12) & 63];
-        out[2] = rest == 2 ? Digits[(v >> 6) & 63] : '=';
-        out[3] = '=';
-        out += 4;
-    }
-    return out;
-}
-
-void AppendBase64(QByteArray& out, QByteArrayView bytes) {
-    const qsizetype start = out.size();
-    out.resize(start + (bytes.size() + 2) / 3 * 4);
-    Base64Into(out.data() + start, bytes);
-}
 
 WebPageStream::WebPageStream(QByteArray start)
     : out_(std::move(start)), thread_([this] { run(); }) {}
