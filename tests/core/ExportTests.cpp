@@ -261,6 +261,7 @@ TEST(ExportWebPage, PlaysInABrowserLikeThePlayer) {
     const QJsonObject seen = Probe(html, pr.box.path("profile"), {"--shot", shot, "--click", "3"});
     EXPECT_EQ(Strings(seen["errors"]), QStringList());
     EXPECT_EQ(Strings(seen["external"]), QStringList());
+    EXPECT_EQ(seen["undecoded"].toInt(-1), 0);
     EXPECT_EQ(seen["title"].toString(), "Ada Quill");
     EXPECT_EQ(seen["page"].toString(), "0");
     EXPECT_EQ(seen["clicked"].toString(), "3");

@@ -66,6 +66,8 @@ async function main() {
     texts: await value("[...document.querySelectorAll('.line')].map((e) => e.textContent)"),
     names: await value("[...document.querySelectorAll('[role=img]')].map((e) => e.getAttribute('aria-label'))"),
     // Whatever the page would fetch: every source and style sheet must be inside it.
+    // Pictures the browser could not decode (a page's or the home page's picture missing).
+    undecoded: await value("[...document.images].filter((i) => !i.complete || i.naturalWidth === 0).length"),
     external: await value("[...document.querySelectorAll('[src], link[href]')].map((e) => e.getAttribute('src') || e.getAttribute('href')).filter((u) => u && !u.startsWith('data:'))"),
   };
   const shot = opt("--shot");
