@@ -20,9 +20,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <algorithm>
 #include <array>
-#include <future>
 #include <memory>
 
 namespace zentor {
@@ -177,11 +175,10 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     const qsizetype urisAt = html.indexOf(UrisMark);
     WebPageStream stream(html.first(urisAt));
 
-    // The pages and the music are the package's own, written into the page as they are
-    // made; the home page is the players' own, painted and compressed from the package's
-    // beginning in the time the pages being drawn leave.
-    // The package's resampled pictures are not compressed: the home page is painted from
-    // them as they were made, and the page carries no other use for them.
+    // Of the package only the head is kept: the pages and the music go into the page as
+    // generation writes them, and the pictures it resamples, which only the home page
+    // shows, are taken as they were made, never compressed. The home page is the players'
+    // own, painted from the head in the time the pages being drawn leave.
     const QByteArray background = DefaultHomeBackground(ctx);
     std::array<QImage, show::Package::EntryCount> resampled;
     const auto paintHome = [&res, &resampled, background](const PackageContents& package) {
