@@ -418,6 +418,13 @@ TEST(RenderPicture, ReadsTheUsualFormatsNoLargerThanDrawn) {
     ASSERT_TRUE(Solid(4000, 3000, color).save(box.path("big.jpg"), "JPEG", 90));
     for (const char* format : {"PNG", "BMP", "ICO"})
         ASSERT_TRUE(Solid(64, 48, color).save(box.path(QLatin1String("pic.") + format), format));
+    // A camera's JPEG whose EXIF says "turn me a quarter": drawn as stored, as everywhere.
+    QByteArray turned = EncodeJpeg(Solid(64, 48, color), 90);
+    turned.insert(2, QByteArray("\xFF\xE1\x00\x22"
+                                "Exif\0\0MM\0\x2A\0\0\0\x08\0\x01"
+                                "\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0",
+                                36));
+    ASSERT_TRUE(test::WriteAll(box.path("turned.jpg"), turned));
     const struct {
         QString file;
         QSize draw, want;
@@ -426,6 +433,7 @@ TEST(RenderPicture, ReadsTheUsualFormatsNoLargerThanDrawn) {
         {"big.jpg", {5000, 50}, {4000, 50}}, // never above the picture itself
         {"pic.PNG", {32, 24}, {32, 24}},     {"pic.PNG", {1280, 960}, {64, 48}},
         {"pic.BMP", {32, 24}, {32, 24}},     {"pic.ICO", {32, 24}, {32, 24}},
+        {"turned.jpg", {}, {64, 48}},
     };
     for (const auto& c : cases) {
         const QImage img = LoadPicture(box.path(c.file), c.draw);
