@@ -288,5 +288,25 @@ TEST(ShowPictures, FramesFitTheWindowBetweenBars) {
     }
 }
 
+// Hovering a ring icon names its own page, from the package's tab names.
+TEST(ShowPictures, HoveringAnIconNamesItsPage) {
+    Sandbox box;
+    const ResImages res = ResImages::load();
+    const auto hovered = [&](const char* thirdName) {
+        auto doc = box.newDocument();
+        doc->Tabs[3].Name = thirdName;
+        PackageContents package;
+        QStringList warnings;
+        QString error;
+        EXPECT_TRUE(DocumentPackage(*doc, box.ctx, res, package, warnings, error));
+        const ShowPictures pictures(package, res, DefaultHomeBackground(box.ctx));
+        return std::pair{pictures.picture(show::HomePicture, 3),
+                         pictures.picture(show::HomePicture, 4)};
+    };
+    const auto skills = hovered("Skills"), talents = hovered("Talents");
+    EXPECT_NE(skills.first, talents.first);
+    EXPECT_EQ(skills.second, talents.second);
+}
+
 } // namespace
 } // namespace zentor::test
