@@ -2,12 +2,12 @@
 
 #include "ScriptedPrompter.h"
 
+#include "export/Base64.h"
 #include "export/ExportCommand.h"
 #include "export/PackageShowFrames.h"
 #include "export/PdfExport.h"
 #include "export/PdfJoin.h"
 #include "export/WebPageExport.h"
-#include "export/Base64.h"
 #include "generate/RenderedPictures.h"
 #include "generate/ResumeGenerator.h"
 #include "io/ScriptFile.h"
@@ -27,8 +27,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cmath>
 #include <map>
+#include <thread>
 
 using namespace zentor;
 
@@ -314,6 +316,10 @@ TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
         homeFromHead = ShowPictures(head, res, background, {}).picture(show::HomePicture);
     };
     watch.blob = [&](int entry, const QByteArray& bytes) { blobs[entry] = bytes; };
+    std::atomic<int> idleWorkers = 0; // picture workers that found nothing left to make
+    watch.idle = [&, caller = std::this_thread::get_id()] {
+        idleWorkers += std::this_thread::get_id() != caller;
+    };
     ASSERT_TRUE(DocumentPackage(*pr.doc, pr.box.ctx, res, package, warnings, error, watch))
         << error.toStdString();
 
@@ -326,6 +332,7 @@ TEST(ExportWebPage, PackageInMemoryIsTheGeneratedFileAndJudgedAsPlayersJudge) {
     EXPECT_EQ(package.Data, test::ReadAll(pr.box.path("cv.qdv")));
     for (int entry = 0; entry < Package::EntryCount; ++entry)
         EXPECT_EQ(blobs[entry], package.blobView(entry)) << entry;
+    EXPECT_GT(idleWorkers, 0);
 
     const ShowPictures decoded(package, res, background);
     EXPECT_EQ(ShowPictures(package, res, background, judged).showOrder(), decoded.showOrder());

@@ -93,6 +93,7 @@ bool DocumentPackage(const Document& doc, const ProcessContext& ctx, const ResIm
                 watch.head(head);
         });
     generator.setHeadOnly(watch.headOnly);
+    generator.setIdleWork(watch.idle);
     if (watch.blob)
         generator.setBlobWritten(watch.blob);
     generator.setProgress(watch.progress);

@@ -55,6 +55,8 @@ struct PackageWatch {
     // Only the package's head is kept (see ResumeGenerator::setHeadOnly): what
     // DocumentPackage gives is that head, as `head` is shown it.
     bool headOnly = false;
+    // Work for picture workers that find nothing left to make (ResumeGenerator::setIdleWork).
+    std::function<void()> idle;
 };
 
 // The package a document generates, made in memory: what the recipient's player will show.

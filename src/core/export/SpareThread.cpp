@@ -21,6 +21,43 @@ SpareThread::SpareThread(std::function<void()> work) : thread_(std::move(work)) 
     SetIdle(thread_, true);
 }
 
+void SpareWork::add(std::function<void()> task) {
+    std::lock_guard lock(mutex_);
+    tasks_.push_back(std::move(task));
+}
+
+void SpareWork::run() {
+    for (;;) {
+        std::function<void()> task;
+        {
+            std::lock_guard lock(mutex_);
+            if (tasks_.empty())
+                return;
+            task = std::move(tasks_.front());
+            tasks_.pop_front();
+            ++running_;
+        }
+        task();
+        {
+            std::lock_guard lock(mutex_);
+            --running_;
+        }
+        done_.notify_all();
+    }
+}
+
+SpareWork::~SpareWork() {
+    std::unique_lock lock(mutex_);
+    tasks_.clear();
+    done_.wait(lock, [this] { return running_ == 0; });
+}
+
+void SpareWork::finish() {
+    run();
+    std::unique_lock lock(mutex_);
+    done_.wait(lock, [this] { return running_ == 0; });
+}
+
 void SpareThread::join() {
     if (!thread_.joinable())
         return;

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <condition_variable>
+#include <deque>
 #include <functional>
 #include <future>
+#include <mutex>
 #include <thread>
 
 namespace zentor {
@@ -39,6 +42,27 @@ private:
     std::packaged_task<T()> task_;
     std::future<T> result_;
     SpareThread thread_; // last: started once the task is in place, joined first
+};
+
+// Work an export adds to generating, for the picture workers that find nothing left to make
+// (ResumeGenerator::setIdleWork): it fills the time the last pages leave a core idle. What
+// they have not taken, the caller does at the end.
+class SpareWork {
+public:
+    // Drops what no one has taken; waits for what is running.
+    ~SpareWork();
+
+    void add(std::function<void()> task);
+    // Runs tasks until none is left; on any thread, several at once.
+    void run();
+    // Runs what is left, then waits for the tasks other threads are running.
+    void finish();
+
+private:
+    std::mutex mutex_;
+    std::condition_variable done_;
+    std::deque<std::function<void()>> tasks_;
+    int running_ = 0;
 };
 
 } // namespace zentor

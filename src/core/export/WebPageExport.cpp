@@ -21,7 +21,7 @@
 #include <QJsonDocument>
 
 #include <array>
-#include <memory>
+#include <optional>
 
 namespace zentor {
 
@@ -187,14 +187,15 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
             pictures.givePicture(int(entry), resampled[entry]);
         return EncodeJpeg(pictures.picture(show::HomePicture), PageQuality);
     };
-    std::unique_ptr<SpareResult<QByteArray>> home;
+    std::optional<QByteArray> home;
+    SpareWork spare;
     PackageWatch watch;
     ShowPictures::EmptyPages judged;
     watch.judged = &judged;
     watch.head = [&](PackageContents head) {
-        home = std::make_unique<SpareResult<QByteArray>>(
-            [paintHome, head = std::move(head)] { return paintHome(head); });
+        spare.add([&home, paintHome, head = std::move(head)] { home = paintHome(head); });
     };
+    watch.idle = [&spare] { spare.run(); };
     bool music = false;
     watch.blob = [&](int entry, const QByteArray& bytes) {
         if (entry >= show::PageEntryOfTab(1) && entry <= show::PageEntryOfTab(SlideShowTab))
@@ -223,7 +224,8 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     show.insert("home", HomeLayer(doc, pictures));
     if (music)
         show.insert("music", QString::fromLatin1(UriId(show::Package::MusicEntry)));
-    stream.add(HomeUriId, "image/jpeg", home ? home->get() : paintHome(package));
+    spare.finish();
+    stream.add(HomeUriId, "image/jpeg", home ? *home : paintHome(package));
 
     const QByteArray data = "{\"pages\":" + pageLayers.get() + ',' + ScriptJson(show).sliced(1);
     QByteArray rest = html.sliced(urisAt + UrisMark.size());

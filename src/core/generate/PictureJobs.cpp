@@ -2,7 +2,8 @@
 
 namespace zentor {
 
-PictureJobs::PictureJobs(std::vector<Job> jobs, int threads) : jobs_(std::move(jobs)) {
+PictureJobs::PictureJobs(std::vector<Job> jobs, int threads, std::function<void()> whenIdle)
+    : jobs_(std::move(jobs)), whenIdle_(std::move(whenIdle)) {
     if (threads <= 0)
         return;
     promises_.resize(jobs_.size());
@@ -22,8 +23,11 @@ PictureJobs::~PictureJobs() {
 void PictureJobs::work() {
     while (!stop_) {
         const size_t i = next_++;
-        if (i >= jobs_.size())
+        if (i >= jobs_.size()) {
+            if (whenIdle_)
+                whenIdle_();
             return;
+        }
         try {
             promises_[i].set_value(jobs_[i]());
         } catch (...) {

@@ -173,7 +173,7 @@ bool ResumeGenerator::Writer::run(bool selfRun) {
         jobs.push_back([&pictures, &doc, page] { return pictures.renderPage(doc, page); });
     const int threads =
         gen_.parallel_ && pictures.reentrant() ? std::max(1, QThread::idealThreadCount()) : 0;
-    jobs_ = std::make_unique<PictureJobs>(std::move(jobs), threads);
+    jobs_ = std::make_unique<PictureJobs>(std::move(jobs), threads, gen_.idleWork_);
     size_t nextJob = 0;
 
     if (!tidyPath(doc_.Profile.UserIcon).isEmpty() &&

@@ -67,6 +67,9 @@ public:
     // and the pages) is only shown to blobWritten, for a program that takes it from there.
     // The entry table still gives every blob's place and length.
     void setHeadOnly(bool on) { headOnly_ = on; }
+    // Work for a picture worker that finds no picture left to make, run there while the
+    // others finish theirs (only when generating in parallel).
+    void setIdleWork(std::function<void()> work) { idleWork_ = std::move(work); }
 
     // The extension rule: `path` gets ".exe" or ".qdv" unless its last four characters are
     // exactly that (case matters: "cv.EXE" becomes "cv.EXE.exe").
@@ -95,6 +98,7 @@ private:
     std::function<void(const QByteArray&)> headWritten_;
     std::function<void(int, const QByteArray&)> blobWritten_;
     bool headOnly_ = false;
+    std::function<void()> idleWork_;
 };
 
 } // namespace zentor
