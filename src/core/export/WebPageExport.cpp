@@ -178,7 +178,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     // Of the package only the head is kept: the pages and the music go into the page as
     // generation writes them, and the pictures it resamples, which only the home page
     // shows, are taken as they were made, never compressed. The home page is the players'
-    // own, painted from the head in the time the pages being drawn leave.
+    // own, painted from the head by a picture worker that finds no page left to draw.
     const QByteArray background = DefaultHomeBackground(ctx);
     std::array<QImage, show::Package::EntryCount> resampled;
     const auto paintHome = [&res, &resampled, background](const PackageContents& package) {
