@@ -21,7 +21,6 @@
 #include <QJsonDocument>
 
 #include <array>
-#include <optional>
 
 namespace zentor {
 
@@ -187,7 +186,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
             pictures.givePicture(int(entry), resampled[entry]);
         return EncodeJpeg(pictures.picture(show::HomePicture), PageQuality);
     };
-    std::optional<QByteArray> home;
+    QByteArray home; // painted once the head is written, which a made package always has
     SpareWork spare;
     PackageWatch watch;
     ShowPictures::EmptyPages judged;
@@ -225,7 +224,7 @@ QByteArray RenderWebPage(const Document& doc, const ResImages& res, const Proces
     if (music)
         show.insert("music", QString::fromLatin1(UriId(show::Package::MusicEntry)));
     spare.finish();
-    stream.add(HomeUriId, "image/jpeg", home ? *home : paintHome(package));
+    stream.add(HomeUriId, "image/jpeg", home);
 
     const QByteArray data = "{\"pages\":" + pageLayers.get() + ',' + ScriptJson(show).sliced(1);
     QByteArray rest = html.sliced(urisAt + UrisMark.size());

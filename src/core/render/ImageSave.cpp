@@ -71,7 +71,8 @@ QImage ResampledPicture(const QString& sourcePath, int width, int height, Pictur
         QPainter p(&canvas);
         DrawPictureFile(p, sourcePath.trimmed(), canvas.rect(), cache);
     }
-    return canvas.convertToFormat(QImage::Format_RGB32);
+    canvas.convertTo(QImage::Format_RGB32); // in place: the canvas is not needed again
+    return canvas;
 }
 
 } // namespace zentor

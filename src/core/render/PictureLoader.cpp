@@ -5,8 +5,6 @@
 #include <QBuffer>
 #include <QImageReader>
 
-#include <algorithm>
-
 namespace zentor {
 namespace {
 
@@ -71,9 +69,7 @@ QImage Decode(QImageReader& reader, QSize drawSize) {
         return QImage();
     QSize decode;
     if (natural.isValid() && drawSize.width() > 0 && drawSize.height() > 0) {
-        // Never below the drawn size in either direction, never above the picture itself.
-        decode = QSize(std::min(drawSize.width(), natural.width()),
-                       std::min(drawSize.height(), natural.height()));
+        decode = drawSize.boundedTo(natural); // as ReduceToDraw will reduce it
         if (decode != natural)
             reader.setScaledSize(reader.format() == "jpeg" ? JpegDecodeSize(natural, decode)
                                                            : decode);
