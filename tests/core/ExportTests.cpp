@@ -288,7 +288,9 @@ TEST(ExportWebPage, ShowMovesOnByItself) {
     ExportProject pr;
     pr.doc->Header.ShowAsRun = 1;
     pr.doc->Header.KeepOnTime = 600;
+    pr.doc->Header.BackMusic = QString(); // and no music: nothing names one
     const QString html = pr.exportAs("html", "run.html");
+    EXPECT_FALSE(test::ReadAll(html).contains("\"music\":"));
     const QJsonObject seen = Probe(html, pr.box.path("profile"), {"--wait-advance"});
     EXPECT_EQ(Strings(seen["errors"]), QStringList());
     EXPECT_EQ(seen["advanced"].toString(), "7"); // Personal, the strip's first page
