@@ -174,6 +174,16 @@ TEST(VideoExport, SizeKeepsAspectAndEvenSides) {
     EXPECT_EQ(VideoSize({1000, 700}, 101), QSize(144, 100));
 }
 
+// A video that cannot be written says why.
+TEST(ExportVideo, AFailedWriteSaysWhy) {
+    Sandbox box;
+    auto doc = box.newDocument();
+    QString error;
+    EXPECT_FALSE(WriteExport(ExportKind::Video, *doc, box.path("gone/show.mp4"), ResImages::load(),
+                             box.ctx, &error));
+    EXPECT_FALSE(error.isEmpty());
+}
+
 // The window's own run (tests/editor) covers a plain export; here what it may be told.
 TEST(ExportVideo, RunsTheEditorsExportPathFromDialogToFile) {
     const ResImages res = ResImages::load();
